@@ -1,0 +1,69 @@
+#include "DemoOptions.h"
+#include "ScreenshotTaker.h"
+
+#include "framework/HostApplication.h"
+
+#include <QDir>
+#include <QGuiApplication>
+#include <QQmlApplicationEngine>
+#include <QQmlContext>
+#include <QQuickStyle>
+#include <QQuickWindow>
+#include <cstdio>
+
+namespace {
+
+bool WantsScreenshot(int argc, char** argv)
+{
+    for (int i = 1; i < argc; ++i) {
+        if (qstrcmp(argv[i], "--screenshot") == 0)
+            return true;
+    }
+    return false;
+}
+
+} // namespace
+
+int main(int argc, char** argv)
+{
+    if (WantsScreenshot(argc, argv)) {
+        // A screenshot needs no display: render offscreen with the software scene graph.
+        if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
+            qputenv("QT_QPA_PLATFORM", "offscreen");
+        QQuickWindow::setGraphicsApi(QSGRendererInterface::Software);
+    }
+    QGuiApplication application(argc, argv);
+    QGuiApplication::setApplicationName(QStringLiteral("QtComponentsDemo"));
+    QGuiApplication::setOrganizationName(QStringLiteral("QtComponents"));
+    QQuickStyle::setStyle(QStringLiteral("Basic"));
+
+    const DemoOptions options = DemoOptions::Parse(QGuiApplication::arguments());
+    if (!options.valid) {
+        std::fprintf(stderr, "%s\nUsage: QtComponentsDemo [--page NAME] [--screenshot FILE [--delay MS]]\n",
+                     qPrintable(options.error));
+        return 2;
+    }
+
+    Orvo::Kernel::Framework::HostApplication::Start(QGuiApplication::applicationDirPath().toStdWString());
+
+    QQmlApplicationEngine engine;
+    // The build lays the QML import directory out beside bin/.
+    engine.addImportPath(QDir(QGuiApplication::applicationDirPath()).absoluteFilePath(QStringLiteral("../qml")));
+    engine.rootContext()->setContextProperty(QStringLiteral("initialPage"), options.page);
+    QObject::connect(
+        &engine, &QQmlApplicationEngine::objectCreationFailed, &application, []() { QCoreApplication::exit(1); },
+        Qt::QueuedConnection);
+    engine.load(QUrl(QStringLiteral("qrc:/demo/qml/Main.qml")));
+    if (engine.rootObjects().isEmpty())
+        return 1;
+
+    auto* window = qobject_cast<QQuickWindow*>(engine.rootObjects().constFirst());
+    if (!window)
+        return 1;
+
+    if (!options.screenshotFile.isEmpty()) {
+        auto* taker = new ScreenshotTaker(window, options.screenshotFile, options.screenshotDelayMs, &application);
+        taker->Start();
+    }
+    return QGuiApplication::exec();
+}

@@ -1,0 +1,18 @@
+#pragma once
+
+#include "HostKitExport.h"
+
+#include <QLoggingCategory>
+#include <string>
+
+namespace Orvo::Kernel::Framework {
+
+// The host's debugger output. Everything written here goes to the "orvo.debug" category,
+// so a session can switch it on or off with QT_LOGGING_RULES like any other Qt output.
+HOSTKIT_EXPORT const QLoggingCategory& DebugOutputCategory();
+
+HOSTKIT_EXPORT void DebugOutput(const QString& message);
+HOSTKIT_EXPORT void DebugOutput(const std::string& message);
+HOSTKIT_EXPORT void DebugOutput(const char* message);
+
+} // namespace Orvo::Kernel::Framework

@@ -1,0 +1,20 @@
+#pragma once
+
+#include "HostKitExport.h"
+
+#include <filesystem>
+#include <memory>
+
+namespace Orvo::Kernel::Framework {
+
+class ServiceCatalog;
+
+// What a host does once at start-up: fix its directories, then build the service catalog
+// that every component will find through ServiceCatalog::Global().
+class HOSTKIT_EXPORT HostApplication
+{
+public:
+    static std::shared_ptr<ServiceCatalog> Start(const std::filesystem::path& applicationDirectory);
+};
+
+} // namespace Orvo::Kernel::Framework

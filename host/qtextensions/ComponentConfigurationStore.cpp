@@ -1,0 +1,76 @@
+#include "ComponentConfigurationStore.h"
+
+#include "framework/Debug.h"
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QSaveFile>
+
+namespace Orvo::UI::QtExtensions {
+
+ComponentConfigurationStore::ComponentConfigurationStore(std::filesystem::path file)
+    : m_file(std::move(file))
+{
+    ReadFile();
+}
+
+QString ComponentConfigurationStore::Load(const QString& key) const
+{
+    return m_configurations.value(key);
+}
+
+void ComponentConfigurationStore::Store(const QString& key, const QString& configuration)
+{
+    if (m_configurations.value(key) == configuration && m_configurations.contains(key))
+        return;
+    m_configurations.insert(key, configuration);
+    WriteFile();
+}
+
+void ComponentConfigurationStore::ReadFile()
+{
+    QFile file(QString::fromStdWString(m_file.wstring()));
+    if (!file.exists())
+        return;
+    if (!file.open(QIODevice::ReadOnly)) {
+        Kernel::Framework::DebugOutput(QStringLiteral("Cannot read %1").arg(file.fileName()));
+        return;
+    }
+    QJsonParseError error;
+    const auto document = QJsonDocument::fromJson(file.readAll(), &error);
+    if (error.error != QJsonParseError::NoError || !document.isObject()) {
+        // A damaged file must not cost the user the panels: start from defaults, keep the file
+        // aside so nothing is lost.
+        Kernel::Framework::DebugOutput(
+            QStringLiteral("Ignoring damaged component configuration %1: %2").arg(file.fileName(), error.errorString()));
+        QFile::remove(file.fileName() + QStringLiteral(".damaged"));
+        file.close();
+        QFile::copy(file.fileName(), file.fileName() + QStringLiteral(".damaged"));
+        return;
+    }
+    const auto object = document.object();
+    for (auto it = object.begin(); it != object.end(); ++it)
+        m_configurations.insert(it.key(), it.value().toString());
+}
+
+void ComponentConfigurationStore::WriteFile() const
+{
+    const QString path = QString::fromStdWString(m_file.wstring());
+    QDir().mkpath(QFileInfo(path).absolutePath());
+    QJsonObject object;
+    for (auto it = m_configurations.begin(); it != m_configurations.end(); ++it)
+        object.insert(it.key(), it.value());
+    QSaveFile file(path);
+    if (!file.open(QIODevice::WriteOnly)) {
+        Kernel::Framework::DebugOutput(QStringLiteral("Cannot write %1").arg(path));
+        return;
+    }
+    file.write(QJsonDocument(object).toJson());
+    if (!file.commit())
+        Kernel::Framework::DebugOutput(QStringLiteral("Cannot write %1").arg(path));
+}
+
+} // namespace Orvo::UI::QtExtensions

@@ -1,0 +1,30 @@
+#include "File.h"
+
+#include "kernel/Directories.h"
+
+#include <QDir>
+#include <QUrl>
+
+namespace Orvo::UI::QtExtensions::File {
+
+QString createQmlFilePath(const std::filesystem::path& path)
+{
+    const QString local = QDir::cleanPath(QString::fromStdWString(path.wstring()));
+    return QUrl::fromLocalFile(local).toString();
+}
+
+std::wstring getRelativePathFromQmlPath(const QString& qmlPath)
+{
+    const QUrl url(qmlPath);
+    if (!url.isLocalFile())
+        return qmlPath.toStdWString();
+    const QString local = QDir::cleanPath(url.toLocalFile());
+    const QDir applicationDirectory(QString::fromStdWString(
+        Kernel::Directories::GetDirectory(Kernel::Directories::DirectoryType::ApplicationDirectory).wstring()));
+    const QString relative = applicationDirectory.relativeFilePath(local);
+    if (relative.startsWith(QLatin1String("../")) || relative == QLatin1String(".."))
+        return local.toStdWString();
+    return relative.toStdWString();
+}
+
+} // namespace Orvo::UI::QtExtensions::File

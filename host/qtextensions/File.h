@@ -1,0 +1,18 @@
+#pragma once
+
+#include "HostKitExport.h"
+
+#include <QString>
+#include <filesystem>
+
+namespace Orvo::UI::QtExtensions::File {
+
+// The image-source form of a file path as QML expects it: a file: URL.
+HOSTKIT_EXPORT QString createQmlFilePath(const std::filesystem::path& path);
+
+// The inverse of createQmlFilePath for files under the application directory: the path
+// relative to that directory, with forward slashes. A source outside the application
+// directory comes back as an absolute local path; one that is not a local file unchanged.
+HOSTKIT_EXPORT std::wstring getRelativePathFromQmlPath(const QString& qmlPath);
+
+} // namespace Orvo::UI::QtExtensions::File

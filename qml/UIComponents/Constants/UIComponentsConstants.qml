@@ -1,0 +1,27 @@
+pragma Singleton
+import QtQuick
+import BasicComponents.Constants
+
+// Sizes and colours shared by the component library, on top of the host's basic constants.
+QtObject {
+    readonly property color tableHeader: BasicConstants.colors.panelHeader
+    readonly property color tableGrid: "#dde1e7"
+    readonly property color tableSelection: BasicConstants.colors.selection
+    readonly property color tableHighlight: "#fff4c2"
+    readonly property color tableReadOnly: BasicConstants.colors.readOnly
+    readonly property color tableNewRow: "#f7faff"
+    readonly property color filterActive: "#fff8dc"
+    readonly property color invalidInput: BasicConstants.colors.errorLight
+    readonly property color markingMenuRing: "#2b3445"
+    readonly property color markingMenuSlice: "#3a4660"
+    readonly property color markingMenuSliceHover: BasicConstants.colors.accent
+    readonly property color markingMenuText: "#ffffff"
+
+    readonly property int tableRowHeight: BasicConstants.sizes.rowHeight
+    readonly property int tableHeaderHeight: 28
+    readonly property int tableColumnWidthStep: 64
+    readonly property int tableMinimumColumnWidth: 64
+    readonly property int propertiesIndent: 14
+    readonly property int markingMenuSize: 700
+    readonly property int markingMenuTimeout: 20000
+}

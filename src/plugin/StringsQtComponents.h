@@ -1,0 +1,19 @@
+#pragma once
+
+#include <QObject>
+#include <QString>
+
+namespace Orvo::UI::UIComponents {
+
+// QML's view of the components' string table: Strings.text("UI_...") in every document.
+class StringsQtComponents : public QObject
+{
+    Q_OBJECT
+
+public:
+    explicit StringsQtComponents(QObject* parent = nullptr);
+
+    Q_INVOKABLE QString text(QString id) const;
+};
+
+} // namespace Orvo::UI::UIComponents
