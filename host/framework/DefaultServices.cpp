@@ -5,6 +5,7 @@
 #include "INeedServiceCatalog.h"
 #include "ServiceCatalog.h"
 #include "TranslationStringLoader.h"
+#include "basiccomponents/NumberFormatSettings.h"
 #include "kernel/Directories.h"
 #include "qtextensions/ComponentConfigurationStore.h"
 
@@ -39,6 +40,8 @@ void DefaultServices::Install(ServiceCatalog& catalog)
 {
     catalog.Register<EventBus>(std::make_shared<EventBus>());
     catalog.Register<IStringLoader>(CreateStringLoader());
+    catalog.Register<UI::BasicComponents::NumberFormatSettings>(
+        std::make_shared<UI::BasicComponents::NumberFormatSettings>());
     catalog.Register<UI::QtExtensions::ComponentConfigurationStore>(
         std::make_shared<UI::QtExtensions::ComponentConfigurationStore>(
             Directories::GetDirectory(Directories::DirectoryType::UserConfigurationDirectory) / "components.json"));

@@ -2,6 +2,9 @@
 
 #include "StringsQtComponents.h"
 #include "qtextensions/FramelessWindow.h"
+#include "valueentry/InlineCalculator.h"
+#include "valueentry/IntegerValidator.h"
+#include "valueentry/RealValidator.h"
 
 #include <QQmlEngine>
 
@@ -23,6 +26,9 @@ void RegisterQtComponentsTypes(const char* uri)
     constexpr int minor = 0;
 
     // The order below is the module's registration order; keep new rows in their place.
+    qmlRegisterType<IntegerValidator>(uri, major, minor, "IntegerValidator");
+    qmlRegisterType<RealValidator>(uri, major, minor, "RealValidator");
+    qmlRegisterType<InlineCalculator>(uri, major, minor, "InlineCalculator");
     qmlRegisterType<QtExtensions::FramelessWindow>(uri, major, minor, "FramelessWindow");
     qmlRegisterSingletonType<StringsQtComponents>(uri, major, minor, "Strings", CreateStrings);
 }
