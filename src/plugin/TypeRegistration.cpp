@@ -2,6 +2,15 @@
 
 #include "StringsQtComponents.h"
 #include "qtextensions/FramelessWindow.h"
+#include "tables/FilterBarModel.h"
+#include "tables/MultiEditAction.h"
+#include "tables/MultiEditActionSolver.h"
+#include "tables/MultiEditSearchResult.h"
+#include "tables/TableColumnsModel.h"
+#include "tables/TableContentFilterModel.h"
+#include "tables/TableContentModel.h"
+#include "tables/TableSelectionFilterModel.h"
+#include "tables/TableSelectionModel.h"
 #include "valueentry/InlineCalculator.h"
 #include "valueentry/IntegerValidator.h"
 #include "valueentry/RealValidator.h"
@@ -29,6 +38,15 @@ void RegisterQtComponentsTypes(const char* uri)
     qmlRegisterType<IntegerValidator>(uri, major, minor, "IntegerValidator");
     qmlRegisterType<RealValidator>(uri, major, minor, "RealValidator");
     qmlRegisterType<InlineCalculator>(uri, major, minor, "InlineCalculator");
+    qmlRegisterType<TableColumnsModel>(uri, major, minor, "TableColumnsModel");
+    qmlRegisterType<TableContentModel>(uri, major, minor, "TableContentModel");
+    qmlRegisterType<MultiEditAction>(uri, major, minor, "MultiEditAction");
+    qmlRegisterType<MultiEditActionSolver>(uri, major, minor, "MultiEditActionSolver");
+    qmlRegisterType<MultiEditSearchResult>(uri, major, minor, "MultiEditSearchResult");
+    qmlRegisterType<TableContentFilterModel>(uri, major, minor, "TableContentFilterModel");
+    qmlRegisterType<TableSelectionModel>(uri, major, minor, "TableSelectionModel");
+    qmlRegisterType<TableSelectionFilterModel>(uri, major, minor, "TableSelectionFilterModel");
+    qmlRegisterType<FilterBarModel>(uri, major, minor, "FilterBarModel");
     qmlRegisterType<QtExtensions::FramelessWindow>(uri, major, minor, "FramelessWindow");
     qmlRegisterSingletonType<StringsQtComponents>(uri, major, minor, "Strings", CreateStrings);
 }

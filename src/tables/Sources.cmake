@@ -11,4 +11,22 @@ target_sources(QtComponentsCore PRIVATE
     ${CMAKE_CURRENT_LIST_DIR}/FilterCellText.h ${CMAKE_CURRENT_LIST_DIR}/FilterCellText.cpp
     ${CMAKE_CURRENT_LIST_DIR}/NaturalTextOrder.h ${CMAKE_CURRENT_LIST_DIR}/NaturalTextOrder.cpp
     ${CMAKE_CURRENT_LIST_DIR}/UnicodeStripped.h ${CMAKE_CURRENT_LIST_DIR}/UnicodeStripped.cpp
+    ${CMAKE_CURRENT_LIST_DIR}/TablesLogging.h ${CMAKE_CURRENT_LIST_DIR}/TablesLogging.cpp
+    ${CMAKE_CURRENT_LIST_DIR}/TableColumn.h
+    ${CMAKE_CURRENT_LIST_DIR}/TableContentUpdate.h ${CMAKE_CURRENT_LIST_DIR}/TableContentUpdate.cpp
+    ${CMAKE_CURRENT_LIST_DIR}/TableContentGrid.h ${CMAKE_CURRENT_LIST_DIR}/TableContentGrid.cpp
+    ${CMAKE_CURRENT_LIST_DIR}/TableNumberText.h ${CMAKE_CURRENT_LIST_DIR}/TableNumberText.cpp
+    ${CMAKE_CURRENT_LIST_DIR}/TableColorPalette.h ${CMAKE_CURRENT_LIST_DIR}/TableColorPalette.cpp
+    ${CMAKE_CURRENT_LIST_DIR}/TableColumnsModel.h ${CMAKE_CURRENT_LIST_DIR}/TableColumnsModel.cpp
+    ${CMAKE_CURRENT_LIST_DIR}/TableSelectionRegion.h ${CMAKE_CURRENT_LIST_DIR}/TableSelectionRegion.cpp
+    ${CMAKE_CURRENT_LIST_DIR}/TableSelectionView.h
+    ${CMAKE_CURRENT_LIST_DIR}/TableSelectionModel.h ${CMAKE_CURRENT_LIST_DIR}/TableSelectionModel.cpp
+    ${CMAKE_CURRENT_LIST_DIR}/TableSelectionFilterModel.h ${CMAKE_CURRENT_LIST_DIR}/TableSelectionFilterModel.cpp
+    ${CMAKE_CURRENT_LIST_DIR}/TableContentModel.h ${CMAKE_CURRENT_LIST_DIR}/TableContentModel.cpp
+    ${CMAKE_CURRENT_LIST_DIR}/FilterBarModel.h ${CMAKE_CURRENT_LIST_DIR}/FilterBarModel.cpp
+    ${CMAKE_CURRENT_LIST_DIR}/TableContentFilterModel.h ${CMAKE_CURRENT_LIST_DIR}/TableContentFilterModel.cpp
+    ${CMAKE_CURRENT_LIST_DIR}/MultiEditOperation.h ${CMAKE_CURRENT_LIST_DIR}/MultiEditOperation.cpp
+    ${CMAKE_CURRENT_LIST_DIR}/MultiEditAction.h ${CMAKE_CURRENT_LIST_DIR}/MultiEditAction.cpp
+    ${CMAKE_CURRENT_LIST_DIR}/MultiEditActionSolver.h ${CMAKE_CURRENT_LIST_DIR}/MultiEditActionSolver.cpp
+    ${CMAKE_CURRENT_LIST_DIR}/MultiEditSearchResult.h ${CMAKE_CURRENT_LIST_DIR}/MultiEditSearchResult.cpp
 )

@@ -1,0 +1,87 @@
+#include "MultiEditOperation.h"
+
+#include "TableContentModel.h"
+#include "TableNumberText.h"
+
+#include <cmath>
+
+namespace Orvo::UI::UIComponents {
+
+std::optional<QVariant> MultiEditOperation::Apply(int action, const Cell& cell, const QString& operand)
+{
+    switch (action) {
+    case Add:
+    case Subtract:
+    case Multiply:
+    case Divide:
+    case Round:
+        return ApplyArithmetic(action, cell, operand);
+    case Replace:
+        return ApplyReplace(cell, operand);
+    default:
+        return std::nullopt;
+    }
+}
+
+std::optional<QVariant> MultiEditOperation::ApplyArithmetic(int action, const Cell& cell,
+                                                            const QString& operand)
+{
+    if ((cell.type != TableValueType::Integer && cell.type != TableValueType::Real) || cell.usesParameter)
+        return std::nullopt;
+    const auto by = TableNumberText::Parse(operand);
+    bool ok = false;
+    const double value = cell.value.toString().isEmpty() ? 0.0 : cell.value.toDouble(&ok);
+    if (!by || (!ok && !cell.value.toString().isEmpty()))
+        return std::nullopt;
+
+    double result = value;
+    switch (action) {
+    case Add:
+        result = value + *by;
+        break;
+    case Subtract:
+        result = value - *by;
+        break;
+    case Multiply:
+        result = value * *by;
+        break;
+    case Divide:
+        if (*by == 0.0)
+            return std::nullopt;
+        result = value / *by;
+        break;
+    case Round:
+        // To the nearest multiple of the operand; a zero step has no multiples to round to.
+        if (*by == 0.0)
+            return std::nullopt;
+        result = std::round(value / *by) * *by;
+        break;
+    default:
+        return std::nullopt;
+    }
+    if (!std::isfinite(result))
+        return std::nullopt;
+    if (cell.type == TableValueType::Integer)
+        return QVariant::fromValue(static_cast<qlonglong>(std::llround(result)));
+    return result;
+}
+
+std::optional<QVariant> MultiEditOperation::ApplyReplace(const Cell& cell, const QString& operand)
+{
+    const QStringList& names = !cell.parametersNames.isEmpty() ? cell.parametersNames : cell.allValues;
+    if (cell.type == TableValueType::List || cell.usesParameter || !cell.parametersNames.isEmpty()) {
+        for (const QString& name : names) {
+            if (name.compare(operand.trimmed(), Qt::CaseInsensitive) == 0)
+                return name;
+        }
+        if (cell.type == TableValueType::List || cell.usesParameter)
+            return std::nullopt;
+    }
+    const QString value
+        = TableContentModel::CreateContentUpdateValue(operand, cell.type, cell.parametersNames);
+    if (value.isNull())
+        return std::nullopt;
+    return value;
+}
+
+} // namespace Orvo::UI::UIComponents

@@ -1,0 +1,45 @@
+#pragma once
+
+#include "TableValueType.h"
+
+#include <QString>
+#include <QStringList>
+#include <QVariant>
+#include <optional>
+
+namespace Orvo::UI::UIComponents {
+
+// What one multi-edit operator does to one cell's value.
+class MultiEditOperation
+{
+public:
+    // The operators in the solver's numbering.
+    enum Action
+    {
+        Add = 0,
+        Subtract = 1,
+        Multiply = 2,
+        Divide = 3,
+        Round = 4,
+        Replace = 5,
+        Search = 6,
+    };
+
+    struct Cell
+    {
+        QVariant value; // what the cell shows now: a pending edit or the cached content
+        TableValueType type = TableValueType::Unknown;
+        QStringList parametersNames; // names a list or parameter cell can take
+        QStringList allValues; // choices of a list cell
+        bool usesParameter = false; // the cell shows one of its parameter names
+    };
+
+    // The new value of the cell, or nullopt when the operator leaves it as it is.
+    static std::optional<QVariant> Apply(int action, const Cell& cell, const QString& operand);
+
+private:
+    static std::optional<QVariant> ApplyArithmetic(int action, const Cell& cell, const QString& operand);
+    static std::optional<QVariant> ApplyReplace(const Cell& cell, const QString& operand);
+};
+
+} // namespace Orvo::UI::UIComponents

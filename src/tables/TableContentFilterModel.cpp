@@ -1,0 +1,448 @@
+#include "TableContentFilterModel.h"
+
+#include "FilterBarModel.h"
+#include "FilterConditionFactory.h"
+#include "TableContentModel.h"
+#include "TableSelectionFilterModel.h"
+#include "TableSelectionModel.h"
+#include "TablesLogging.h"
+#include "framework/Debug.h"
+
+#include <QHash>
+
+namespace Orvo::UI::UIComponents {
+
+namespace {
+
+// Raises the filtering flag for one row test, whichever way the test ends.
+class FilteringScope
+{
+public:
+    explicit FilteringScope(bool& flag)
+        : m_flag(flag)
+        , m_previous(flag)
+    {
+        m_flag = true;
+    }
+    ~FilteringScope() { m_flag = m_previous; }
+    FilteringScope(const FilteringScope&) = delete;
+    FilteringScope& operator=(const FilteringScope&) = delete;
+
+private:
+    bool& m_flag;
+    bool m_previous;
+};
+
+} // namespace
+
+TableContentFilterModel::TableContentFilterModel(QObject* parent)
+    : QSortFilterProxyModel(parent)
+    , m_selectionModel(new TableSelectionFilterModel(this, this))
+{
+    // Filtering is re-run explicitly when a filter text changes. A dynamic filter would re-test rows on
+    // every dataChanged, and the selection roles change with every click.
+    setDynamicSortFilter(false);
+    connect(this, &QAbstractItemModel::columnsInserted, this, &TableContentFilterModel::onColumnsInserted);
+    connect(this, &TableContentFilterModel::filterBarModelChanged, this,
+            &TableContentFilterModel::onFilterBarModelChanged);
+    connect(this, &QAbstractItemModel::rowsInserted, this, &TableContentFilterModel::rowCountChanged);
+    connect(this, &QAbstractItemModel::rowsRemoved, this, &TableContentFilterModel::rowCountChanged);
+    connect(this, &QAbstractItemModel::modelReset, this, &TableContentFilterModel::rowCountChanged);
+    connect(this, &QAbstractItemModel::layoutChanged, this, &TableContentFilterModel::rowCountChanged);
+}
+
+TableContentFilterModel::~TableContentFilterModel()
+{
+    delete m_selectionModel;
+}
+
+TableContentModel* TableContentFilterModel::GetSourceModel()
+{
+    return m_sourceModel;
+}
+
+const TableContentModel* TableContentFilterModel::GetSourceModel() const
+{
+    return m_sourceModel;
+}
+
+void TableContentFilterModel::SetSourceModel(TableContentModel* model)
+{
+    if (m_sourceModel == model)
+        return;
+    m_selectionModel->SetSourceSelectionModel(nullptr);
+    if (m_sourceModel)
+        disconnect(m_sourceModel, nullptr, this, nullptr);
+    m_sourceModel = model;
+    setSourceModel(model);
+    if (model) {
+        connect(model, &QAbstractItemModel::columnsRemoved, this, &TableContentFilterModel::onColumnsRemoved);
+        connect(model, &TableContentModel::columnWidthChanged, this,
+                &TableContentFilterModel::onColumnWidthChanged);
+        connect(model, &TableContentModel::horizontalHeaderHeightChanged, this,
+                &TableContentFilterModel::horizontalHeaderHeightChanged);
+        connect(model, &TableContentModel::allowAddNewChanged, this,
+                &TableContentFilterModel::allowAddNewChanged);
+        connect(model, &TableContentModel::allowEditChanged, this,
+                &TableContentFilterModel::allowEditChanged);
+        connect(model, &TableContentModel::columnsLayoutChanged, this,
+                &TableContentFilterModel::columnsLayoutChanged);
+        connect(model, &QAbstractItemModel::columnsMoved, this, &TableContentFilterModel::onColumnsMoved);
+        m_selectionModel->SetSourceSelectionModel(model->selectionModel());
+    }
+    RebuildColumnsMapping();
+}
+
+void TableContentFilterModel::setFilterBarModel(FilterBarModel* model)
+{
+    if (m_filterBarModel == model)
+        return;
+    if (m_filterBarModel)
+        disconnect(m_filterBarModel, nullptr, this, nullptr);
+    m_filterBarModel = model;
+    if (model) {
+        model->SynchronizeColumns(GetColumnsIds(0, columnCount() - 1));
+        connect(model, &QAbstractItemModel::dataChanged, this,
+                &TableContentFilterModel::onFilterBarDataChanged);
+        // The texts go with the bar: a bar that QML destroys takes its filters along.
+        connect(model, &QObject::destroyed, this, [this]() { setFilterBarModel(nullptr); });
+    }
+    emit filterBarModelChanged();
+}
+
+// ---- Filtering -------------------------------------------------------------------------------------------
+
+bool TableContentFilterModel::filterAcceptsRow(int sourceRow, const QModelIndex& sourceParent) const
+{
+    if (m_conditions.empty() || !m_sourceModel || sourceParent.isValid())
+        return true;
+    if (sourceRow == m_sourceModel->newRowIndex())
+        return true;
+    FilteringScope filtering(m_filtering);
+    try {
+        for (const auto& [column, entry] : m_conditions) {
+            const int sourceColumn = MapColumnToSource(column);
+            if (sourceColumn < 0)
+                continue;
+            const TableCellContent& cell = m_sourceModel->GetFilledCell(
+                sourceRow, sourceColumn, TableContentModel::ContentRequest::WholeColumn);
+            if (!entry.condition->Evaluate(cell))
+                return false;
+        }
+    } catch (const std::exception& error) {
+        // Without its cell a row cannot be judged; it stays visible rather than vanish silently.
+        Kernel::Framework::DebugOutput(QStringLiteral("TableContentFilterModel: %1").arg(error.what()));
+    }
+    return true;
+}
+
+void TableContentFilterModel::onFilterBarDataChanged(const QModelIndex& topLeft,
+                                                     const QModelIndex& bottomRight, const QList<int>& roles)
+{
+    if (!roles.contains(FilterBarModel::ConditionTextRole) || !topLeft.isValid() || !bottomRight.isValid()
+        || !m_filterBarModel)
+        return;
+    const std::vector<QString> ids = GetColumnsIds(0, columnCount() - 1);
+    bool changed = false;
+    for (int row = topLeft.row(); row <= bottomRight.row(); ++row) {
+        const bool hadCondition = m_conditions.count(row) > 0;
+        const QString text = m_filterBarModel->index(row).data(FilterBarModel::ConditionTextRole).toString();
+        std::unique_ptr<FilterConditionBase> condition = FilterConditionFactory::CreateFilterCondition(text);
+        if (!condition) {
+            m_conditions.erase(row);
+            changed = changed || hadCondition;
+            continue;
+        }
+        const QString id
+            = row < static_cast<int>(ids.size()) ? ids[static_cast<std::size_t>(row)] : QString();
+        m_conditions[row] = ColumnCondition { id, std::move(condition) };
+        changed = true;
+    }
+    if (changed)
+        InvalidateFiltering();
+}
+
+void TableContentFilterModel::onFilterBarModelChanged()
+{
+    if (!m_filterBarModel || m_filterBarModel->rowCount() == 0) {
+        m_conditions.clear();
+        InvalidateFiltering();
+        return;
+    }
+    onFilterBarDataChanged(m_filterBarModel->index(0),
+                           m_filterBarModel->index(m_filterBarModel->rowCount() - 1),
+                           { FilterBarModel::ConditionTextRole });
+}
+
+void TableContentFilterModel::InvalidateFiltering()
+{
+    // Hidden rows must not stay selected: every change of the filters starts a new selection.
+    m_selectionModel->select(QModelIndex(), 3, false);
+    invalidateFilter();
+    emit filterChanged();
+}
+
+bool TableContentFilterModel::RekeyConditions()
+{
+    if (m_conditions.empty())
+        return false;
+    const std::vector<QString> ids = GetColumnsIds(0, columnCount() - 1);
+    QHash<QString, int> columnOfId;
+    for (std::size_t column = 0; column < ids.size(); ++column)
+        columnOfId.insert(ids[column], static_cast<int>(column));
+    bool lost = false;
+    std::map<int, ColumnCondition> conditions;
+    for (auto& [column, entry] : m_conditions) {
+        const auto it = columnOfId.constFind(entry.columnId);
+        if (it == columnOfId.constEnd()) {
+            lost = true;
+            continue;
+        }
+        conditions[it.value()] = std::move(entry);
+    }
+    m_conditions = std::move(conditions);
+    return lost;
+}
+
+// ---- Columns
+// -----------------------------------------------------------------------------------------------
+
+void TableContentFilterModel::RebuildColumnsMapping()
+{
+    const int sourceCount = m_sourceModel ? m_sourceModel->columnCount() : 0;
+    QHash<QString, int> sourceColumnOfId;
+    for (int column = 0; column < sourceCount; ++column)
+        sourceColumnOfId.insert(
+            m_sourceModel->headerData(column, Qt::Horizontal, TableContentModel::ColumnIdRole).toString(),
+            column);
+    m_proxyToSource.assign(static_cast<std::size_t>(std::max(0, columnCount())), -1);
+    m_sourceToProxy.assign(static_cast<std::size_t>(sourceCount), -1);
+    for (int column = 0; column < columnCount(); ++column) {
+        const QString id = headerData(column, Qt::Horizontal, TableContentModel::ColumnIdRole).toString();
+        const auto it = sourceColumnOfId.constFind(id);
+        if (it == sourceColumnOfId.constEnd())
+            continue;
+        m_proxyToSource[static_cast<std::size_t>(column)] = it.value();
+        m_sourceToProxy[static_cast<std::size_t>(it.value())] = column;
+    }
+}
+
+int TableContentFilterModel::MapColumnToSource(int column) const
+{
+    return column >= 0 && column < static_cast<int>(m_proxyToSource.size())
+        ? m_proxyToSource[static_cast<std::size_t>(column)]
+        : -1;
+}
+
+int TableContentFilterModel::MapColumnFromSource(int column) const
+{
+    return column >= 0 && column < static_cast<int>(m_sourceToProxy.size())
+        ? m_sourceToProxy[static_cast<std::size_t>(column)]
+        : -1;
+}
+
+std::vector<QString> TableContentFilterModel::GetColumnsIds(int first, int last) const
+{
+    first = std::max(first, 0);
+    last = std::min(last, columnCount() - 1);
+    std::vector<QString> ids;
+    for (int column = first; column <= last; ++column)
+        ids.push_back(headerData(column, Qt::Horizontal, TableContentModel::ColumnIdRole).toString());
+    return ids;
+}
+
+void TableContentFilterModel::onColumnsInserted(const QModelIndex& parent, int first, int last)
+{
+    if (parent.isValid())
+        return;
+    RebuildColumnsMapping();
+    RekeyConditions();
+    emit columnCountChanged();
+    if (m_filterBarModel)
+        m_filterBarModel->Insert(first, GetColumnsIds(first, last));
+}
+
+void TableContentFilterModel::onColumnsRemoved(const QModelIndex& parent, int first, int last)
+{
+    if (parent.isValid())
+        return;
+    RebuildColumnsMapping();
+    const bool lostCondition = RekeyConditions();
+    emit columnCountChanged();
+    if (m_filterBarModel)
+        m_filterBarModel->Remove(first, last - first + 1);
+    if (lostCondition)
+        InvalidateFiltering();
+}
+
+void TableContentFilterModel::onColumnsMoved(const QModelIndex&, int, int, const QModelIndex&, int)
+{
+    RebuildColumnsMapping();
+    RekeyConditions();
+    if (m_filterBarModel)
+        m_filterBarModel->SynchronizeColumns(GetColumnsIds(0, columnCount() - 1));
+}
+
+void TableContentFilterModel::onColumnWidthChanged(int sourceColumn)
+{
+    const int column = MapColumnFromSource(sourceColumn);
+    if (column != -1)
+        emit columnWidthChanged(column);
+}
+
+// ---- Header and counts ---------------------------------------------------------------------------------
+
+QVariant TableContentFilterModel::headerData(int section, Qt::Orientation orientation, int role) const
+{
+    if (orientation == Qt::Vertical && role == Qt::DisplayRole) {
+        if (section < 0 || section >= rowCount())
+            return {};
+        // Visible rows are numbered without gaps; the new-row line is the "*" row.
+        return section == newRowIndex() ? QStringLiteral("*") : QString::number(section + 1);
+    }
+    return QSortFilterProxyModel::headerData(section, orientation, role);
+}
+
+bool TableContentFilterModel::setHeaderData(int section, Qt::Orientation orientation, const QVariant& value,
+                                            int role)
+{
+    if (!m_sourceModel || orientation != Qt::Horizontal)
+        return false;
+    return m_sourceModel->setHeaderData(MapColumnToSource(section), orientation, value, role);
+}
+
+int TableContentFilterModel::newRowIndex() const
+{
+    if (!m_sourceModel || m_sourceModel->newRowIndex() < 0 || m_sourceModel->columnCount() == 0)
+        return -1;
+    return mapFromSource(m_sourceModel->index(m_sourceModel->newRowIndex(), 0)).row();
+}
+
+int TableContentFilterModel::rowCountSubmitted() const
+{
+    return getAllowAddNew() ? std::max(0, rowCount() - 1) : rowCount();
+}
+
+bool TableContentFilterModel::isEmpty() const
+{
+    return !m_sourceModel || m_sourceModel->isEmpty();
+}
+
+// ---- Forwarding to the content model -------------------------------------------------------------------
+
+double TableContentFilterModel::getMinVerticalHeaderWidth() const
+{
+    return m_sourceModel ? m_sourceModel->getMinVerticalHeaderWidth() : 32.0;
+}
+
+double TableContentFilterModel::getHorizontalHeaderHeight() const
+{
+    return m_sourceModel ? m_sourceModel->getHorizontalHeaderHeight() : 24.0;
+}
+
+void TableContentFilterModel::setHorizontalHeaderHeight(double height)
+{
+    if (m_sourceModel)
+        m_sourceModel->setHorizontalHeaderHeight(height);
+}
+
+bool TableContentFilterModel::getAllowAddNew() const
+{
+    return m_sourceModel && m_sourceModel->getAllowAddNew();
+}
+
+void TableContentFilterModel::setAllowAddNew(bool allow)
+{
+    if (m_sourceModel)
+        m_sourceModel->setAllowAddNew(allow);
+}
+
+bool TableContentFilterModel::getAllowEdit() const
+{
+    return m_sourceModel && m_sourceModel->getAllowEdit();
+}
+
+void TableContentFilterModel::setAllowEdit(bool allow)
+{
+    if (m_sourceModel)
+        m_sourceModel->setAllowEdit(allow);
+}
+
+int TableContentFilterModel::getColumnMaxWidth() const
+{
+    return m_sourceModel ? m_sourceModel->getColumnMaxWidth() : 0;
+}
+
+void TableContentFilterModel::confirmUpdate()
+{
+    if (m_sourceModel)
+        m_sourceModel->confirmUpdate();
+}
+
+int TableContentFilterModel::rowHeight(int row) const
+{
+    return m_sourceModel ? m_sourceModel->rowHeight(row) : TableContentModel::c_rowHeight;
+}
+
+int TableContentFilterModel::columnWidth(int column) const
+{
+    return m_sourceModel ? m_sourceModel->columnWidth(MapColumnToSource(column)) : 0;
+}
+
+void TableContentFilterModel::setColumnWidth(int column, int width)
+{
+    if (m_sourceModel)
+        m_sourceModel->setColumnWidth(MapColumnToSource(column), width);
+}
+
+void TableContentFilterModel::moveColumn(int srcIndex, int dstIndex)
+{
+    if (!m_sourceModel)
+        return;
+    const int source = MapColumnToSource(srcIndex);
+    const int destination
+        = dstIndex == columnCount() ? m_sourceModel->columnCount() : MapColumnToSource(dstIndex);
+    m_sourceModel->moveColumn(source, destination);
+}
+
+void TableContentFilterModel::extendAllColumns()
+{
+    if (m_sourceModel)
+        m_sourceModel->extendAllColumns();
+}
+
+void TableContentFilterModel::narrowAllColumns()
+{
+    if (m_sourceModel)
+        m_sourceModel->narrowAllColumns();
+}
+
+bool TableContentFilterModel::submitLayout()
+{
+    return m_sourceModel && m_sourceModel->submitLayout();
+}
+
+void TableContentFilterModel::executeAction(const QModelIndex& index)
+{
+    if (m_sourceModel)
+        m_sourceModel->executeAction(mapToSource(index));
+}
+
+void TableContentFilterModel::copyToClipboard()
+{
+    if (m_sourceModel)
+        m_sourceModel->copyToClipboard();
+}
+
+void TableContentFilterModel::pasteFromClipboard()
+{
+    if (m_sourceModel)
+        m_sourceModel->pasteFromClipboard();
+}
+
+bool TableContentFilterModel::isAllRequiredFilledForNewRow() const
+{
+    return m_sourceModel && m_sourceModel->isAllRequiredFilledForNewRow();
+}
+
+} // namespace Orvo::UI::UIComponents

@@ -1,0 +1,129 @@
+#pragma once
+
+#include "FilterBarModel.h"
+#include "FilterConditionBase.h"
+#include "TableSelectionFilterModel.h"
+
+#include <QPointer>
+#include <QSortFilterProxyModel>
+#include <map>
+#include <memory>
+#include <vector>
+
+namespace Orvo::UI::UIComponents {
+
+class TableContentModel;
+
+// What a table view shows: the rows of its TableContentModel that pass every column's filter,
+// renumbered, with the new-row line always kept. The filter texts live in a FilterBarModel; each
+// becomes a condition through FilterConditionFactory. Layout and editing operations go to the source.
+class TableContentFilterModel : public QSortFilterProxyModel
+{
+    Q_OBJECT
+    Q_PROPERTY(bool empty READ isEmpty NOTIFY rowCountChanged)
+    Q_PROPERTY(int rowCount READ getRowCount NOTIFY rowCountChanged)
+    Q_PROPERTY(int columnCount READ getColumnCount NOTIFY columnCountChanged)
+    Q_PROPERTY(double minVerticalHeaderWidth READ getMinVerticalHeaderWidth CONSTANT)
+    Q_PROPERTY(double horizontalHeaderHeight READ getHorizontalHeaderHeight WRITE setHorizontalHeaderHeight
+                   NOTIFY horizontalHeaderHeightChanged)
+    Q_PROPERTY(int newRowIndex READ newRowIndex NOTIFY rowCountChanged)
+    Q_PROPERTY(bool allowAddNew READ getAllowAddNew WRITE setAllowAddNew NOTIFY allowAddNewChanged)
+    Q_PROPERTY(bool allowEdit READ getAllowEdit WRITE setAllowEdit NOTIFY allowEditChanged)
+    Q_PROPERTY(int columnMaxWidth READ getColumnMaxWidth CONSTANT)
+    Q_PROPERTY(Orvo::UI::UIComponents::TableSelectionFilterModel* selectionModel READ selectionModel CONSTANT)
+    Q_PROPERTY(Orvo::UI::UIComponents::FilterBarModel* filterBarModel READ getFilterBarModel WRITE
+                   setFilterBarModel NOTIFY filterBarModelChanged)
+
+public:
+    explicit TableContentFilterModel(QObject* parent = nullptr);
+    ~TableContentFilterModel() override;
+
+    void SetSourceModel(TableContentModel* model);
+    TableContentModel* GetSourceModel();
+    const TableContentModel* GetSourceModel() const;
+    FilterBarModel* getFilterBarModel() const { return m_filterBarModel; }
+    void setFilterBarModel(FilterBarModel* model);
+    TableSelectionFilterModel* selectionModel() const { return m_selectionModel; }
+    // True while a row is being tested against the filters.
+    bool Invalidating() const { return m_filtering; }
+    int rowCountSubmitted() const;
+    int newRowIndex() const;
+
+    QVariant headerData(int section, Qt::Orientation orientation, int role = Qt::DisplayRole) const override;
+    Q_INVOKABLE bool setHeaderData(int section, Qt::Orientation orientation, const QVariant& value,
+                                   int role = Qt::EditRole) override;
+
+    bool isEmpty() const;
+    int getRowCount() const { return rowCount(); }
+    int getColumnCount() const { return columnCount(); }
+    double getMinVerticalHeaderWidth() const;
+    double getHorizontalHeaderHeight() const;
+    void setHorizontalHeaderHeight(double height);
+    bool getAllowAddNew() const;
+    void setAllowAddNew(bool allow);
+    bool getAllowEdit() const;
+    void setAllowEdit(bool allow);
+    int getColumnMaxWidth() const;
+
+    Q_INVOKABLE void confirmUpdate();
+    Q_INVOKABLE int rowHeight(int row) const;
+    Q_INVOKABLE int columnWidth(int column) const;
+    Q_INVOKABLE void setColumnWidth(int column, int width);
+    Q_INVOKABLE void moveColumn(int srcIndex, int dstIndex);
+    Q_INVOKABLE void extendAllColumns();
+    Q_INVOKABLE void narrowAllColumns();
+    Q_INVOKABLE bool submitLayout();
+    Q_INVOKABLE void executeAction(const QModelIndex& index);
+    Q_INVOKABLE void copyToClipboard();
+    Q_INVOKABLE void pasteFromClipboard();
+    Q_INVOKABLE bool isAllRequiredFilledForNewRow() const;
+
+signals:
+    void rowCountChanged();
+    void columnCountChanged();
+    void columnWidthChanged(int column);
+    void horizontalHeaderHeightChanged();
+    void allowAddNewChanged();
+    void allowEditChanged();
+    void columnsLayoutChanged();
+    void filterBarModelChanged();
+    void filterChanged();
+
+protected:
+    bool filterAcceptsRow(int sourceRow, const QModelIndex& sourceParent) const override;
+
+private slots:
+    void onColumnWidthChanged(int sourceColumn);
+    void onColumnsInserted(const QModelIndex& parent, int first, int last);
+    void onColumnsRemoved(const QModelIndex& parent, int first, int last);
+    void onColumnsMoved(const QModelIndex& parent, int start, int end, const QModelIndex& destination,
+                        int column);
+    void onFilterBarModelChanged();
+    void onFilterBarDataChanged(const QModelIndex& topLeft, const QModelIndex& bottomRight,
+                                const QList<int>& roles);
+
+private:
+    struct ColumnCondition
+    {
+        QString columnId;
+        std::unique_ptr<FilterConditionBase> condition;
+    };
+
+    void RebuildColumnsMapping();
+    void InvalidateFiltering();
+    int MapColumnToSource(int column) const;
+    int MapColumnFromSource(int column) const;
+    std::vector<QString> GetColumnsIds(int first, int last) const;
+    // Columns came, went or moved: each condition follows its column by id. True when one was lost.
+    bool RekeyConditions();
+
+    QPointer<TableContentModel> m_sourceModel;
+    QPointer<FilterBarModel> m_filterBarModel;
+    std::vector<int> m_proxyToSource;
+    std::vector<int> m_sourceToProxy;
+    std::map<int, ColumnCondition> m_conditions;
+    mutable bool m_filtering = false;
+    TableSelectionFilterModel* m_selectionModel = nullptr;
+};
+
+} // namespace Orvo::UI::UIComponents

@@ -1,0 +1,39 @@
+#pragma once
+
+#include <QMetaType>
+#include <QVariant>
+#include <map>
+
+namespace Orvo::UI::UIComponents {
+
+// Edits not yet handed to the feeder: row -> (column -> new value), iterated in ascending order.
+class TableContentUpdate
+{
+public:
+    using RowValues = std::map<int, QVariant>;
+    using Rows = std::map<int, RowValues>;
+
+    TableContentUpdate() = default;
+    TableContentUpdate(const TableContentUpdate&) = default;
+    TableContentUpdate(TableContentUpdate&&) = default;
+    TableContentUpdate& operator=(const TableContentUpdate&) = default;
+    TableContentUpdate& operator=(TableContentUpdate&&) = default;
+    virtual ~TableContentUpdate() = default;
+
+    void SetValue(int row, int column, const QVariant& value);
+    QVariant GetValue(int row, int column) const;
+    bool Contains(int row, int column) const;
+    void Remove(int row, int column);
+    void Clear();
+    bool IsEmpty() const { return m_rows.empty(); }
+    int MaxRow() const { return m_maxRow; }
+    const Rows& GetRows() const { return m_rows; }
+
+private:
+    Rows m_rows;
+    int m_maxRow = -1;
+};
+
+} // namespace Orvo::UI::UIComponents
+
+Q_DECLARE_METATYPE(Orvo::UI::UIComponents::TableContentUpdate)
