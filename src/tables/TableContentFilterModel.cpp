@@ -74,6 +74,10 @@ void TableContentFilterModel::SetSourceModel(TableContentModel* model)
     if (m_sourceModel)
         disconnect(m_sourceModel, nullptr, this, nullptr);
     m_sourceModel = model;
+    // Connected before the proxy connects itself: when columns move, the conditions must follow
+    // their columns before the proxy re-tests its rows for the new layout.
+    if (model)
+        connect(model, &QAbstractItemModel::columnsMoved, this, &TableContentFilterModel::onColumnsMoved);
     setSourceModel(model);
     if (model) {
         connect(model, &QAbstractItemModel::columnsRemoved, this, &TableContentFilterModel::onColumnsRemoved);
@@ -87,7 +91,6 @@ void TableContentFilterModel::SetSourceModel(TableContentModel* model)
                 &TableContentFilterModel::allowEditChanged);
         connect(model, &TableContentModel::columnsLayoutChanged, this,
                 &TableContentFilterModel::columnsLayoutChanged);
-        connect(model, &QAbstractItemModel::columnsMoved, this, &TableContentFilterModel::onColumnsMoved);
         m_selectionModel->SetSourceSelectionModel(model->selectionModel());
     }
     RebuildColumnsMapping();

@@ -192,12 +192,16 @@ std::optional<TableSelectionRegion> TableSelectionModel::RegionFromView(const Ta
 {
     const int rowCount = view.GetRowCount();
     const int columnCount = view.GetColumnCount();
-    top = std::clamp(std::min(top, bottom), 0, rowCount - 1);
-    bottom = std::clamp(std::max(top, bottom), 0, rowCount - 1);
-    left = std::clamp(std::min(left, right), 0, columnCount - 1);
-    right = std::clamp(std::max(left, right), 0, columnCount - 1);
     if (rowCount <= 0 || columnCount <= 0)
         return std::nullopt;
+    const int firstRow = std::clamp(std::min(top, bottom), 0, rowCount - 1);
+    const int lastRow = std::clamp(std::max(top, bottom), 0, rowCount - 1);
+    const int firstColumn = std::clamp(std::min(left, right), 0, columnCount - 1);
+    const int lastColumn = std::clamp(std::max(left, right), 0, columnCount - 1);
+    top = firstRow;
+    bottom = lastRow;
+    left = firstColumn;
+    right = lastColumn;
     if (view.IsIdentity())
         return TableSelectionRegion::Rectangle(top, left, bottom, right);
     RowRunBuilder runs;
