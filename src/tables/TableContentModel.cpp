@@ -27,6 +27,38 @@ const QList<int> c_selectionRoles { TableContentModel::SelectedRole, TableConten
                                     TableContentModel::SelectedInRowRole,
                                     TableContentModel::SelectedInRowExtraRole };
 
+// Digits with an optional sign, decimal mark ("." or ",") and exponent: text the host reads as it
+// stands. Checked by hand because a paste of 100,000 cells cannot afford a locale round trip each.
+bool IsPlainNumber(const QString& text, bool allowFraction)
+{
+    const QStringView trimmed = QStringView(text).trimmed();
+    qsizetype i = 0;
+    const qsizetype size = trimmed.size();
+    auto digits = [&]() {
+        const qsizetype start = i;
+        while (i < size && trimmed[i] >= QLatin1Char('0') && trimmed[i] <= QLatin1Char('9'))
+            ++i;
+        return i - start;
+    };
+    if (i < size && (trimmed[i] == QLatin1Char('-') || trimmed[i] == QLatin1Char('+')))
+        ++i;
+    qsizetype count = digits();
+    if (allowFraction && i < size && (trimmed[i] == QLatin1Char('.') || trimmed[i] == QLatin1Char(','))) {
+        ++i;
+        count += digits();
+    }
+    if (count == 0)
+        return false;
+    if (allowFraction && i < size && (trimmed[i] == QLatin1Char('e') || trimmed[i] == QLatin1Char('E'))) {
+        ++i;
+        if (i < size && (trimmed[i] == QLatin1Char('-') || trimmed[i] == QLatin1Char('+')))
+            ++i;
+        if (digits() == 0)
+            return false;
+    }
+    return i == size;
+}
+
 QString FormatAllocationError(int bulk, int column)
 {
     return QStringLiteral("No allocation for required row %1 and column %2").arg(bulk).arg(column);
@@ -780,9 +812,10 @@ QString TableContentModel::CreateContentUpdateValue(const QString& text, TableVa
                                   : parametersNames.value(1, parametersNames.value(0));
         return *number != 0.0 ? QStringLiteral("1") : QStringLiteral("0");
     case TableValueType::Integer:
-        return QString::number(std::llround(*number));
+        // A plain number goes to the host as typed; an expression as the number it stands for.
+        return IsPlainNumber(text, false) ? text.trimmed() : QString::number(std::llround(*number));
     default:
-        return numbers.ToEditText(*number);
+        return IsPlainNumber(text, true) ? text.trimmed() : numbers.ToEditText(*number);
     }
 }
 

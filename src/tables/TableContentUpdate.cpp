@@ -4,16 +4,32 @@
 
 namespace Orvo::UI::UIComponents {
 
+TableContentUpdate::Rows& TableContentUpdate::Detach()
+{
+    if (!m_rows)
+        m_rows = std::make_shared<Rows>();
+    else if (m_rows.use_count() > 1)
+        m_rows = std::make_shared<Rows>(*m_rows);
+    return *m_rows;
+}
+
+const TableContentUpdate::Rows& TableContentUpdate::GetRows() const
+{
+    static const Rows empty;
+    return m_rows ? *m_rows : empty;
+}
+
 void TableContentUpdate::SetValue(int row, int column, const QVariant& value)
 {
-    m_rows[row][column] = value;
+    Detach()[row][column] = value;
     m_maxRow = std::max(m_maxRow, row);
 }
 
 QVariant TableContentUpdate::GetValue(int row, int column) const
 {
-    const auto rowIt = m_rows.find(row);
-    if (rowIt == m_rows.end())
+    const Rows& rows = GetRows();
+    const auto rowIt = rows.find(row);
+    if (rowIt == rows.end())
         return {};
     const auto columnIt = rowIt->second.find(column);
     return columnIt == rowIt->second.end() ? QVariant() : columnIt->second;
@@ -21,24 +37,26 @@ QVariant TableContentUpdate::GetValue(int row, int column) const
 
 bool TableContentUpdate::Contains(int row, int column) const
 {
-    const auto rowIt = m_rows.find(row);
-    return rowIt != m_rows.end() && rowIt->second.count(column) > 0;
+    const Rows& rows = GetRows();
+    const auto rowIt = rows.find(row);
+    return rowIt != rows.end() && rowIt->second.count(column) > 0;
 }
 
 void TableContentUpdate::Remove(int row, int column)
 {
     // maxRow keeps its value: it tells the largest row ever set since the last clear.
-    const auto rowIt = m_rows.find(row);
-    if (rowIt == m_rows.end())
+    if (!Contains(row, column))
         return;
+    Rows& rows = Detach();
+    const auto rowIt = rows.find(row);
     rowIt->second.erase(column);
     if (rowIt->second.empty())
-        m_rows.erase(rowIt);
+        rows.erase(rowIt);
 }
 
 void TableContentUpdate::Clear()
 {
-    m_rows.clear();
+    m_rows.reset();
     m_maxRow = -1;
 }
 

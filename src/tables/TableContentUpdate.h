@@ -3,10 +3,13 @@
 #include <QMetaType>
 #include <QVariant>
 #include <map>
+#include <memory>
 
 namespace Orvo::UI::UIComponents {
 
 // Edits not yet handed to the feeder: row -> (column -> new value), iterated in ascending order.
+// Copies share their values until one of them changes (a paste of 100,000 cells travels through a
+// signal by value without being copied).
 class TableContentUpdate
 {
 public:
@@ -25,12 +28,14 @@ public:
     bool Contains(int row, int column) const;
     void Remove(int row, int column);
     void Clear();
-    bool IsEmpty() const { return m_rows.empty(); }
+    bool IsEmpty() const { return !m_rows || m_rows->empty(); }
     int MaxRow() const { return m_maxRow; }
-    const Rows& GetRows() const { return m_rows; }
+    const Rows& GetRows() const;
 
 private:
-    Rows m_rows;
+    Rows& Detach();
+
+    std::shared_ptr<Rows> m_rows;
     int m_maxRow = -1;
 };
 

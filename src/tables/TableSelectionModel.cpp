@@ -103,6 +103,16 @@ void TableSelectionModel::AttachModel()
     connect(m_model, &QAbstractItemModel::columnsInserted, this, &TableSelectionModel::OnColumnsInserted);
     connect(m_model, &QAbstractItemModel::columnsMoved, this, &TableSelectionModel::OnColumnsMoved);
     connect(m_model, &QAbstractItemModel::modelReset, this, &TableSelectionModel::Clear);
+    connect(m_model, &TableContentModel::aboutToClearContent, this,
+            &TableSelectionModel::OnAboutToClearContent);
+}
+
+void TableSelectionModel::OnAboutToClearContent()
+{
+    // A feeder refills the whole table after every confirmed edit; the user keeps working where
+    // they were, so the selection comes back when the rows do.
+    m_beforeRefill.reset(new Snapshot {
+        m_regions, std::nullopt, m_selectedAll, m_wholeRows, {}, m_currentRow, m_currentColumn });
 }
 
 QModelIndex TableSelectionModel::getCurrentSelectedIndex() const
@@ -663,6 +673,24 @@ void TableSelectionModel::OnRowsInserted(const QModelIndex& parent, int first, i
     if (parent.isValid())
         return;
     ChangeScope scope(*this);
+    if (std::unique_ptr<Snapshot> refilled = std::move(m_beforeRefill);
+        refilled && first == 0 && m_regions.empty()) {
+        const int rows = last + 1;
+        for (TableSelectionRegion& region : refilled->regions) {
+            if (region.RemoveRows(rows, std::max(rows, region.GetBottom())))
+                m_regions.push_back(std::move(region));
+        }
+        m_selectedAll = refilled->selectedAll && !m_regions.empty();
+        for (int row : refilled->wholeRows) {
+            if (row < rows)
+                m_wholeRows.insert(row);
+        }
+        if (refilled->currentRow < rows) {
+            SetCurrent(refilled->currentRow, refilled->currentColumn);
+            SetAnchor(refilled->currentRow, refilled->currentColumn);
+        }
+        return;
+    }
     const int count = last - first + 1;
     for (TableSelectionRegion& region : m_regions)
         region.InsertRows(first, count);
@@ -682,6 +710,7 @@ void TableSelectionModel::OnColumnsRemoved(const QModelIndex& parent, int first,
 {
     if (parent.isValid())
         return;
+    m_beforeRefill.reset(); // a new table is coming, not a refill of this one
     ChangeScope scope(*this);
     const int count = last - first + 1;
     std::vector<TableSelectionRegion> regions;

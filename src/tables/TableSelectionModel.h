@@ -118,6 +118,7 @@ private:
     class DirectView;
 
     void AttachModel();
+    void OnAboutToClearContent();
     void OnRowsRemoved(const QModelIndex& parent, int first, int last);
     void OnRowsInserted(const QModelIndex& parent, int first, int last);
     void OnColumnsRemoved(const QModelIndex& parent, int first, int last);
@@ -155,6 +156,8 @@ private:
     int m_extentColumn = -1;
     int m_changeDepth = 0;
     std::unique_ptr<Snapshot> m_changeStart;
+    // The selection of a table whose content the feeder is refilling, to be put back on the new rows.
+    std::unique_ptr<Snapshot> m_beforeRefill;
 };
 
 } // namespace Orvo::UI::UIComponents

@@ -168,6 +168,21 @@ private slots:
         QVERIFY(!fixture.selection()->getCurrentSelectedIndex().isValid());
     }
 
+    void shouldKeepTheSelectionWhenTheFeederRefillsAfterAnEdit()
+    {
+        Fixture fixture;
+        fixture.selection()->select(fixture.View(2, 1), TableSelectionModel::CleanSelect);
+        fixture.selection()->selectRegion(fixture.View(3, 2), TableSelectionModel::CleanSelect);
+        QVERIFY(fixture.model.setData(fixture.model.index(2, 1), "9", TableContentModel::ContentRole));
+        fixture.model.confirmUpdate(); // the feeder refills the whole table
+        QCOMPARE(fixture.feeder.updates.size(), std::size_t(1));
+        QCOMPARE(fixture.Selected(), QStringList({ "2:1", "2:2", "3:1", "3:2" }));
+        QCOMPARE(fixture.selection()->getCurrentSelectedIndex(), fixture.View(2, 1));
+        fixture.model.Clear(); // a new table is no refill
+        fixture.feeder.Load();
+        QVERIFY(fixture.Selected().isEmpty());
+    }
+
     void shouldSelectOnlyShownRowsThroughTheFilter()
     {
         Fixture fixture(20);
