@@ -1,5 +1,6 @@
 #include "DemoOptions.h"
 #include "ScreenshotTaker.h"
+#include "StructuralMembersFeeder.h"
 
 #include "framework/HostApplication.h"
 
@@ -46,13 +47,18 @@ int main(int argc, char** argv)
 
     Orvo::Kernel::Framework::HostApplication::Start(QGuiApplication::applicationDirPath().toStdWString());
 
+    // The table controller outlives the engine: QML must never see its model go away.
+    StructuralMembersFeeder membersFeeder;
+    membersFeeder.Start();
     QQmlApplicationEngine engine;
     // The build lays the QML import directory out beside bin/.
-    engine.addImportPath(QDir(QGuiApplication::applicationDirPath()).absoluteFilePath(QStringLiteral("../qml")));
+    engine.addImportPath(
+        QDir(QGuiApplication::applicationDirPath()).absoluteFilePath(QStringLiteral("../qml")));
     engine.rootContext()->setContextProperty(QStringLiteral("initialPage"), options.page);
+    engine.rootContext()->setContextProperty(QStringLiteral("membersTable"), membersFeeder.GetModel());
     QObject::connect(
-        &engine, &QQmlApplicationEngine::objectCreationFailed, &application, []() { QCoreApplication::exit(1); },
-        Qt::QueuedConnection);
+        &engine, &QQmlApplicationEngine::objectCreationFailed, &application,
+        []() { QCoreApplication::exit(1); }, Qt::QueuedConnection);
     engine.load(QUrl(QStringLiteral("qrc:/demo/qml/Main.qml")));
     if (engine.rootObjects().isEmpty())
         return 1;
@@ -62,7 +68,8 @@ int main(int argc, char** argv)
         return 1;
 
     if (!options.screenshotFile.isEmpty()) {
-        auto* taker = new ScreenshotTaker(window, options.screenshotFile, options.screenshotDelayMs, &application);
+        auto* taker
+            = new ScreenshotTaker(window, options.screenshotFile, options.screenshotDelayMs, &application);
         taker->Start();
     }
     return QGuiApplication::exec();

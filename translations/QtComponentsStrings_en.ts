@@ -127,5 +127,101 @@
         <source>Pink</source>
         <translation>Pink</translation>
     </message>
+    <message id="UI_APP_PAGE_TABLES">
+        <source>Tables</source>
+        <translation>Tables</translation>
+    </message>
+    <message id="UI_DEMO_TABLES_HINT">
+        <source>Structural members of the model. Type a filter under a column title (5, &lt;=5, [2;4], S355), click a title to sort, drag its edge to resize or the title itself to move the column. Double-click or start typing to edit; numbers may be expressions such as 2*1,5. The last line (*) adds a member. Ctrl+C and Ctrl+V copy and paste; the box above edits every selected cell at once (+5, *2, ~0.5, &gt;S355, ?IPE).</source>
+        <translation>Structural members of the model. Type a filter under a column title (5, &lt;=5, [2;4], S355), click a title to sort, drag its edge to resize or the title itself to move the column. Double-click or start typing to edit; numbers may be expressions such as 2*1,5. The last line (*) adds a member. Ctrl+C and Ctrl+V copy and paste; the box above edits every selected cell at once (+5, *2, ~0.5, &gt;S355, ?IPE).</translation>
+    </message>
+    <message id="UI_DEMO_TABLES_STATUS">
+        <source>%1 of %2 members shown</source>
+        <translation>%1 of %2 members shown</translation>
+    </message>
+    <message id="UI_DEMO_MEMBER_NAME">
+        <source>Name</source>
+        <translation>Name</translation>
+    </message>
+    <message id="UI_DEMO_MEMBER_TYPE">
+        <source>Type</source>
+        <translation>Type</translation>
+    </message>
+    <message id="UI_DEMO_MEMBER_SECTION">
+        <source>Section</source>
+        <translation>Section</translation>
+    </message>
+    <message id="UI_DEMO_MEMBER_MATERIAL">
+        <source>Material</source>
+        <translation>Material</translation>
+    </message>
+    <message id="UI_DEMO_MEMBER_LENGTH">
+        <source>Length [m]</source>
+        <translation>Length [m]</translation>
+    </message>
+    <message id="UI_DEMO_MEMBER_COUNT">
+        <source>Count</source>
+        <translation>Count</translation>
+    </message>
+    <message id="UI_DEMO_MEMBER_ROTATION">
+        <source>Rotation [°]</source>
+        <translation>Rotation [°]</translation>
+    </message>
+    <message id="UI_DEMO_MEMBER_FIXED">
+        <source>Fixed</source>
+        <translation>Fixed</translation>
+    </message>
+    <message id="UI_DEMO_MEMBER_COLOUR">
+        <source>Colour</source>
+        <translation>Colour</translation>
+    </message>
+    <message id="UI_DEMO_MEMBER_UTILISATION">
+        <source>Utilisation</source>
+        <translation>Utilisation</translation>
+    </message>
+    <message id="UI_DEMO_MEMBER_COMMENT">
+        <source>Comment</source>
+        <translation>Comment</translation>
+    </message>
+    <message id="UI_TABLE_NARROW_COLUMNS">
+        <source>Narrow columns</source>
+        <translation>Narrow columns</translation>
+    </message>
+    <message id="UI_TABLE_EXTEND_COLUMNS">
+        <source>Widen columns</source>
+        <translation>Widen columns</translation>
+    </message>
+    <message id="UI_TABLE_COLUMNS">
+        <source>Columns…</source>
+        <translation>Columns…</translation>
+    </message>
+    <message id="UI_TABLE_SHOW_ALL_COLUMNS">
+        <source>Show all columns</source>
+        <translation>Show all columns</translation>
+    </message>
+    <message id="UI_TABLE_CLEAR_FILTERS">
+        <source>Clear filters</source>
+        <translation>Clear filters</translation>
+    </message>
+    <message id="UI_TABLE_MULTIPLE_EDITBOX_ACTION">
+        <source>Action</source>
+        <translation>Action</translation>
+    </message>
+    <message id="UI_TABLE_MULTIPLE_EDITBOX_PLACEHOLDER">
+        <source>+5, *2, ~0.5, &gt;S355, ?IPE</source>
+        <translation>+5, *2, ~0.5, &gt;S355, ?IPE</translation>
+    </message>
+    <message id="UI_TABLE_MULTIPLE_EDITBOX_APPLY">
+        <source>Apply</source>
+        <translation>Apply</translation>
+    </message>
+    <message id="UI_TABLE_MULTIPLE_EDITBOX_FIND_NEXT">
+        <source>Find next</source>
+        <translation>Find next</translation>
+    </message>
+    <message id="UI_TABLE_MULTIPLE_VALUES">
+        <source>Several values</source>
+        <translation>Several values</translation>
+    </message>
 </context>
 </TS>

@@ -1,0 +1,48 @@
+#pragma once
+
+#include "tables/TableContentModel.h"
+
+#include <QHash>
+#include <QObject>
+#include <map>
+#include <vector>
+
+// The demo's table controller: a structural model of 100,000 members whose properties are computed
+// from the member number (so they cost nothing until shown), with the user's edits kept on top.
+// It answers the content model's requests the way the host's table controllers do.
+class StructuralMembersFeeder : public QObject
+{
+    Q_OBJECT
+
+public:
+    static constexpr int c_memberCount = 100'000;
+
+    explicit StructuralMembersFeeder(QObject* parent = nullptr);
+
+    Orvo::UI::UIComponents::TableContentModel* GetModel() { return &m_model; }
+    void Start();
+
+private:
+    struct ColumnDefinition
+    {
+        Orvo::UI::UIComponents::TableColumn column;
+        bool visible;
+    };
+
+    void OnAddColumnsRequest(const std::vector<QString>& ids);
+    void OnRefillContentRequest();
+    void OnSetRowsRequest(int index, int count, const std::vector<QString>& ids);
+    void OnUpdateDataRequest(const Orvo::UI::UIComponents::TableContentUpdate& update);
+    void OnExecuteActionRequest(int row, int column);
+
+    int MemberCount() const { return c_memberCount + m_addedMembers; }
+    Orvo::UI::UIComponents::TableCellContent CellOf(int member, const QString& columnId) const;
+    Orvo::UI::UIComponents::TableCellContent GeneratedCell(int member, const QString& columnId) const;
+    void SortMembers();
+
+    Orvo::UI::UIComponents::TableContentModel m_model;
+    std::vector<ColumnDefinition> m_definitions;
+    std::vector<int> m_memberOfRow; // the sort order: row -> member
+    std::map<int, QHash<QString, QVariant>> m_edits; // member -> column id -> value typed by the user
+    int m_addedMembers = 0;
+};
