@@ -761,6 +761,14 @@ void TableContentModel::confirmUpdate()
     emit updateDataRequest(update);
 }
 
+TableCellContent TableContentModel::CreateCellContent(const Kernel::Tables::TableResultsValue& value)
+{
+    TableCellContent cell;
+    cell.content = QString::fromStdWString(value.text);
+    cell.bold = value.bold;
+    return cell;
+}
+
 QString TableContentModel::ToString(const QVariant& value, TableValueType type)
 {
     return ToString(value, type, TableNumberText());

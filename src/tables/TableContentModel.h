@@ -11,6 +11,7 @@
 #include "TableContentUpdate.h"
 #include "TableSelectionModel.h"
 #include "TableValueType.h"
+#include "tables/TableResultsValue.h"
 
 #include <QAbstractTableModel>
 #include <QHash>
@@ -223,6 +224,8 @@ public:
     MultiEditActionSolver* getMultiEditActionSolver() const { return m_multiEditActionSolver; }
     MultiEditSearchResult* getMultiEditSearchResult() const { return m_multiEditSearchResult; }
 
+    // A cell of a results table: the host's formatted value, bold when the host says so.
+    static TableCellContent CreateCellContent(const Kernel::Tables::TableResultsValue& value);
     static QString ToString(const QVariant& value, TableValueType type);
     static QString ToString(const QVariant& value, TableValueType type, const TableNumberText& numbers);
     // The value a typed or pasted text stands for in a cell of that type; a null string when the

@@ -376,6 +376,30 @@ private slots:
         QCOMPARE(value, expected);
     }
 
+    void shouldGrowAResultsTableWithAppendedContent()
+    {
+        TableContentModel model;
+        QAbstractItemModelTester tester(&model, QAbstractItemModelTester::FailureReportingMode::QtTest);
+        QSignalSpy rows(&model, &TableContentModel::rowCountChanged);
+        model.AddColumns({ Column("force", TableValueType::Unknown, false, false) });
+        const auto results = [](int first, int count) {
+            TableColumnContent content { "force", {} };
+            for (int i = first; i < first + count; ++i)
+                content.cells.push_back(
+                    TableContentModel::CreateCellContent({ std::to_wstring(i) + L" kN", i % 2 == 0 }));
+            return std::vector<TableColumnContent> { content };
+        };
+        model.AddColumnsContent(results(0, 150));
+        model.AddColumnsContent(results(150, 3));
+        QCOMPARE(model.rowCount(), 153);
+        QCOMPARE(rows.count(), 2);
+        QCOMPARE(model.data(model.index(151, 0), TableContentModel::ContentRole).toString(),
+                 QStringLiteral("151 kN"));
+        QCOMPARE(model.data(model.index(152, 0), TableContentModel::BoldRole).toBool(), true);
+        QCOMPARE(model.data(model.index(151, 0), TableContentModel::EditableRole).toBool(), false);
+        QVERIFY_THROWS_EXCEPTION(std::runtime_error, model.AddColumnsContent({ { "torque", {} } }));
+    }
+
     void shouldAskForActionsOnlyOfCellsThatHaveOne()
     {
         Fixture fixture(3);
