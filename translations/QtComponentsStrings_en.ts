@@ -223,5 +223,9 @@
         <source>Several values</source>
         <translation>Several values</translation>
     </message>
+    <message id="UI_TABLE_FILTER_PLACEHOLDER">
+        <source>Filter</source>
+        <translation>Filter</translation>
+    </message>
 </context>
 </TS>

@@ -10,13 +10,13 @@ namespace Orvo::UI::UIComponents {
 std::optional<QVariant> MultiEditOperation::Apply(int action, const Cell& cell, const QString& operand)
 {
     switch (action) {
-    case Add:
-    case Subtract:
-    case Multiply:
-    case Divide:
-    case Round:
+    case MultiEditAction::Add:
+    case MultiEditAction::Subtract:
+    case MultiEditAction::Multiply:
+    case MultiEditAction::Divide:
+    case MultiEditAction::Round:
         return ApplyArithmetic(action, cell, operand);
-    case Replace:
+    case MultiEditAction::Replace:
         return ApplyReplace(cell, operand);
     default:
         return std::nullopt;
@@ -36,21 +36,21 @@ std::optional<QVariant> MultiEditOperation::ApplyArithmetic(int action, const Ce
 
     double result = value;
     switch (action) {
-    case Add:
+    case MultiEditAction::Add:
         result = value + *by;
         break;
-    case Subtract:
+    case MultiEditAction::Subtract:
         result = value - *by;
         break;
-    case Multiply:
+    case MultiEditAction::Multiply:
         result = value * *by;
         break;
-    case Divide:
+    case MultiEditAction::Divide:
         if (*by == 0.0)
             return std::nullopt;
         result = value / *by;
         break;
-    case Round:
+    case MultiEditAction::Round:
         // To the nearest multiple of the operand; a zero step has no multiples to round to.
         if (*by == 0.0)
             return std::nullopt;

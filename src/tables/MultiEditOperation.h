@@ -1,5 +1,6 @@
 #pragma once
 
+#include "MultiEditAction.h"
 #include "TableValueType.h"
 
 #include <QString>
@@ -9,22 +10,10 @@
 
 namespace Orvo::UI::UIComponents {
 
-// What one multi-edit operator does to one cell's value.
+// What one multi-edit operator (numbered as MultiEditAction::Action) does to one cell's value.
 class MultiEditOperation
 {
 public:
-    // The operators in the solver's numbering.
-    enum Action
-    {
-        Add = 0,
-        Subtract = 1,
-        Multiply = 2,
-        Divide = 3,
-        Round = 4,
-        Replace = 5,
-        Search = 6,
-    };
-
     struct Cell
     {
         QVariant value; // what the cell shows now: a pending edit or the cached content

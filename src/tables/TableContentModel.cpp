@@ -1176,11 +1176,11 @@ void TableContentModel::pasteFromClipboard()
 
 void TableContentModel::setDataForSelection(int action, const QString& value)
 {
-    if (action == MultiEditOperation::Search) {
+    if (action == MultiEditAction::Search) {
         m_multiEditSearchResult->SearchNext(value);
         return;
     }
-    if (action < MultiEditOperation::Add || action > MultiEditOperation::Replace) {
+    if (action < MultiEditAction::Add || action > MultiEditAction::Replace) {
         qCWarning(lcTables) << "setDataForSelection: unknown action" << action;
         return;
     }

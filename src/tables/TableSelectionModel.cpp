@@ -655,17 +655,7 @@ void TableSelectionModel::OnRowsRemoved(const QModelIndex& parent, int first, in
     m_wholeRows = std::move(rows);
     if (m_regions.empty())
         m_selectedAll = false;
-    auto follow = [&](int& row, int& column) {
-        if (row > last) {
-            row -= count;
-        } else if (row >= first) {
-            row = -1;
-            column = -1;
-        }
-    };
-    follow(m_currentRow, m_currentColumn);
-    follow(m_anchorRow, m_anchorColumn);
-    follow(m_extentRow, m_extentColumn);
+    FollowRemovedLines(Qt::Vertical, first, last);
 }
 
 void TableSelectionModel::OnRowsInserted(const QModelIndex& parent, int first, int last)
@@ -712,7 +702,6 @@ void TableSelectionModel::OnColumnsRemoved(const QModelIndex& parent, int first,
         return;
     m_beforeRefill.reset(); // a new table is coming, not a refill of this one
     ChangeScope scope(*this);
-    const int count = last - first + 1;
     std::vector<TableSelectionRegion> regions;
     for (TableSelectionRegion& region : m_regions) {
         if (region.RemoveColumns(first, last))
@@ -725,17 +714,23 @@ void TableSelectionModel::OnColumnsRemoved(const QModelIndex& parent, int first,
         m_selectedAll = false;
         m_wholeRows.clear();
     }
-    auto follow = [&](int& row, int& column) {
-        if (column > last) {
-            column -= count;
-        } else if (column >= first) {
-            row = -1;
-            column = -1;
+    FollowRemovedLines(Qt::Horizontal, first, last);
+}
+
+void TableSelectionModel::FollowRemovedLines(Qt::Orientation orientation, int first, int last)
+{
+    const int count = last - first + 1;
+    for (const auto& [row, column] :
+         { std::pair { &m_currentRow, &m_currentColumn }, std::pair { &m_anchorRow, &m_anchorColumn },
+           std::pair { &m_extentRow, &m_extentColumn } }) {
+        int& line = orientation == Qt::Vertical ? *row : *column;
+        if (line > last) {
+            line -= count;
+        } else if (line >= first) {
+            *row = -1;
+            *column = -1;
         }
-    };
-    follow(m_currentRow, m_currentColumn);
-    follow(m_anchorRow, m_anchorColumn);
-    follow(m_extentRow, m_extentColumn);
+    }
 }
 
 void TableSelectionModel::OnColumnsInserted(const QModelIndex& parent, int first, int last)

@@ -123,6 +123,8 @@ private:
     void OnRowsInserted(const QModelIndex& parent, int first, int last);
     void OnColumnsRemoved(const QModelIndex& parent, int first, int last);
     void OnColumnsInserted(const QModelIndex& parent, int first, int last);
+    // Points (current cell, anchor, extent) on removed rows or columns are forgotten, later ones move up.
+    void FollowRemovedLines(Qt::Orientation orientation, int first, int last);
     void OnColumnsMoved(const QModelIndex& parent, int start, int end, const QModelIndex& destination,
                         int column);
 

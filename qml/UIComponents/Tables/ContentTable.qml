@@ -251,7 +251,9 @@ FocusScope {
                     width: rowHeader.width
                     height: root.rowHeight
                     property bool rowSelected: { root.layoutRevision; return root.selection.isRowSelected(index) }
-                    color: rowSelected ? UIComponentsConstants.tableSelection : UIComponentsConstants.tableHeader
+                    property bool currentRow: { root.layoutRevision; return root.selection.currentSelectedIndex.row === index }
+                    color: rowSelected ? UIComponentsConstants.tableSelection
+                                       : currentRow ? BasicConstants.colors.accentLight : UIComponentsConstants.tableHeader
                     border.color: UIComponentsConstants.tableGrid
                     Text {
                         anchors { fill: parent; rightMargin: 6 }

@@ -21,7 +21,7 @@ ListView {
         width: { bar.widthsRevision; return bar.table.columnWidth(index) }
         height: bar.height
         text: conditionText
-        placeholderText: "⌕"
+        placeholderText: Strings.text("UI_TABLE_FILTER_PLACEHOLDER")
         color: BasicConstants.colors.text
         background: Rectangle {
             color: conditionText.length > 0 ? UIComponentsConstants.filterActive : BasicConstants.colors.panel
