@@ -12,11 +12,11 @@ import UIComponents.Constants
 FocusScope {
     id: root
     required property var contentModel
-    readonly property var table: contentModel.contentFilterModel
-    readonly property var selection: table.selectionModel
+    readonly property var table: contentModel?.contentFilterModel ?? null
+    readonly property var selection: table?.selectionModel ?? null
     property int layoutRevision: 0
     readonly property int rowHeight: UIComponentsConstants.tableRowHeight
-    readonly property int verticalHeaderWidth: Math.max(table.minVerticalHeaderWidth, 12 + 8 * String(table.rowCount).length)
+    readonly property int verticalHeaderWidth: Math.max(table?.minVerticalHeaderWidth ?? 32, 12 + 8 * String(table?.rowCount ?? 0).length)
 
     // Roles of TableContentModel, as QML sees them by number.
     readonly property int roleContent: 257
@@ -29,7 +29,7 @@ FocusScope {
     readonly property int roleSortOrder: 270
 
     FilterBarModel { id: ownFilterBar }
-    Component.onCompleted: if (!contentModel.filterBarModel) contentModel.filterBarModel = ownFilterBar
+    Component.onCompleted: if (contentModel && !contentModel.filterBarModel) contentModel.filterBarModel = ownFilterBar
 
     Connections {
         target: root.table
@@ -106,9 +106,9 @@ FocusScope {
             MultiEditBox {
                 Layout.fillWidth: true
                 contentModel: root.contentModel
-                visible: root.table.allowEdit
+                visible: root.table?.allowEdit ?? false
             }
-            Item { Layout.fillWidth: true; visible: !root.table.allowEdit }
+            Item { Layout.fillWidth: true; visible: !(root.table?.allowEdit ?? false) }
             BasicButton {
                 text: Strings.text("UI_TABLE_NARROW_COLUMNS")
                 onClicked: root.table.narrowAllColumns()
@@ -133,7 +133,7 @@ FocusScope {
                             Layout.fillWidth: true
                             Layout.fillHeight: true
                             clip: true
-                            model: root.contentModel.columnsModel
+                            model: root.contentModel?.columnsModel ?? null
                             delegate: BasicCheckBox {
                                 required property int index
                                 required property var model
@@ -153,7 +153,7 @@ FocusScope {
             }
             BasicButton {
                 text: Strings.text("UI_TABLE_CLEAR_FILTERS")
-                enabled: root.table.filterBarModel && root.table.filterBarModel.anyCondition
+                enabled: root.table?.filterBarModel?.anyCondition ?? false
                 onClicked: root.table.filterBarModel.clearAll()
             }
         }
@@ -162,8 +162,8 @@ FocusScope {
         RowLayout {
             Layout.fillWidth: true
             Layout.fillHeight: false
-            Layout.preferredHeight: root.table.horizontalHeaderHeight
-            Layout.maximumHeight: root.table.horizontalHeaderHeight
+            Layout.preferredHeight: root.table?.horizontalHeaderHeight ?? 24
+            Layout.maximumHeight: root.table?.horizontalHeaderHeight ?? 24
             spacing: 0
             Rectangle {
                 Layout.preferredWidth: root.verticalHeaderWidth
@@ -183,18 +183,18 @@ FocusScope {
                 interactive: false
                 clip: true
                 contentX: tableView.contentX
-                model: root.table.columnCount
+                model: root.table?.columnCount ?? 0
                 delegate: TableHeaderCell {
                     required property int index
                     objectName: "headerCell_" + index
                     table: root.table
                     column: index
-                    width: { root.layoutRevision; return root.table.columnWidth(index) }
+                    width: { root.layoutRevision; return root.table?.columnWidth(index) ?? 0 }
                     height: header.height
-                    label: { root.layoutRevision; return root.table.headerData(index, Qt.Horizontal, root.roleColumnLabel) ?? "" }
-                    sortOrder: { root.layoutRevision; return root.table.headerData(index, Qt.Horizontal, root.roleSortOrder) ?? 0 }
-                    sortable: { root.layoutRevision; return root.table.headerData(index, Qt.Horizontal, root.roleSortable) ?? false }
-                    required: { root.layoutRevision; return root.table.headerData(index, Qt.Horizontal, root.roleRequired) ?? false }
+                    label: { root.layoutRevision; return root.table?.headerData(index, Qt.Horizontal, root.roleColumnLabel) ?? "" }
+                    sortOrder: { root.layoutRevision; return root.table?.headerData(index, Qt.Horizontal, root.roleSortOrder) ?? 0 }
+                    sortable: { root.layoutRevision; return root.table?.headerData(index, Qt.Horizontal, root.roleSortable) ?? false }
+                    required: { root.layoutRevision; return root.table?.headerData(index, Qt.Horizontal, root.roleRequired) ?? false }
                     onMoveRequested: (fromColumn, sceneX) => {
                         const point = tableView.contentItem.mapFromItem(null, sceneX, 0)
                         const target = tableView.cellAtPos(point.x, tableView.contentY + 1).x
@@ -219,7 +219,7 @@ FocusScope {
                 Text {
                     anchors.centerIn: parent
                     text: "⚲"
-                    color: root.table.filterBarModel && root.table.filterBarModel.anyCondition ? BasicConstants.colors.accent
+                    color: root.table?.filterBarModel?.anyCondition ? BasicConstants.colors.accent
                                                                                             : BasicConstants.colors.textSecondary
                 }
             }
@@ -245,13 +245,13 @@ FocusScope {
                 interactive: false
                 clip: true
                 contentY: tableView.contentY
-                model: root.table.rowCount
+                model: root.table?.rowCount ?? 0
                 delegate: Rectangle {
                     required property int index
                     width: rowHeader.width
                     height: root.rowHeight
-                    property bool rowSelected: { root.layoutRevision; return root.selection.isRowSelected(index) }
-                    property bool currentRow: { root.layoutRevision; return root.selection.currentSelectedIndex.row === index }
+                    property bool rowSelected: { root.layoutRevision; return root.selection?.isRowSelected(index) ?? false }
+                    property bool currentRow: { root.layoutRevision; return root.selection?.currentSelectedIndex.row === index }
                     color: rowSelected ? UIComponentsConstants.tableSelection
                                        : currentRow ? BasicConstants.colors.accentLight : UIComponentsConstants.tableHeader
                     border.color: UIComponentsConstants.tableGrid
@@ -259,7 +259,7 @@ FocusScope {
                         anchors { fill: parent; rightMargin: 6 }
                         horizontalAlignment: Text.AlignRight
                         verticalAlignment: Text.AlignVCenter
-                        text: { root.layoutRevision; return root.table.headerData(index, Qt.Vertical, 0) ?? "" }
+                        text: { root.layoutRevision; return root.table?.headerData(index, Qt.Vertical, 0) ?? "" }
                         font.family: BasicConstants.fonts.family
                         font.pixelSize: BasicConstants.fonts.small
                         color: BasicConstants.colors.textSecondary
@@ -293,13 +293,13 @@ FocusScope {
                 interactive: false
                 boundsBehavior: Flickable.StopAtBounds
                 model: root.table
-                columnWidthProvider: column => { root.layoutRevision; return root.table.columnWidth(column) }
+                columnWidthProvider: column => { root.layoutRevision; return root.table?.columnWidth(column) ?? 0 }
                 rowHeightProvider: () => root.rowHeight
                 Controls.ScrollBar.vertical: Controls.ScrollBar { policy: Controls.ScrollBar.AsNeeded }
                 Controls.ScrollBar.horizontal: Controls.ScrollBar { policy: Controls.ScrollBar.AsNeeded }
                 delegate: TableCell {
                     contentModel: root.contentModel
-                    newRow: row === root.table.newRowIndex
+                    newRow: row === (root.table?.newRowIndex ?? -1)
                     editing: editor.visible && editor.row === row && editor.column === column
                 }
 

@@ -10,8 +10,8 @@ import UIComponents.Constants
 RowLayout {
     id: box
     required property var contentModel // the TableContentModel
-    readonly property var solver: contentModel.multiEditActionSolver
-    readonly property var search: contentModel.multiEditSearchResult
+    readonly property var solver: contentModel?.multiEditActionSolver ?? null
+    readonly property var search: contentModel?.multiEditSearchResult ?? null
     spacing: BasicConstants.sizes.spacing
 
     function apply() {
@@ -25,8 +25,8 @@ RowLayout {
     BasicComboBox {
         id: actions
         Layout.preferredWidth: 150
-        model: box.solver.actionsLcids.map(lcid => Strings.text(lcid))
-        currentIndex: box.solver.currentAction ? box.solver.currentAction.action : -1
+        model: (box.solver?.actionsLcids ?? []).map(lcid => Strings.text(lcid))
+        currentIndex: box.solver?.currentAction?.action ?? -1
         displayText: currentIndex < 0 ? Strings.text("UI_TABLE_MULTIPLE_EDITBOX_ACTION") : currentText
         onActivated: index => {
             expression.text = box.solver.getExpressionUpdatedByActionAt(index)
@@ -38,28 +38,28 @@ RowLayout {
         objectName: "multiEditExpression"
         Layout.fillWidth: true
         placeholderText: Strings.text("UI_TABLE_MULTIPLE_EDITBOX_PLACEHOLDER")
-        invalid: text.length > 0 && !box.solver.currentActionIsValid
-        onTextChanged: box.solver.expression = text
+        invalid: text.length > 0 && !(box.solver?.currentActionIsValid ?? false)
+        onTextChanged: if (box.solver) box.solver.expression = text
         Keys.onReturnPressed: box.apply()
         Keys.onEnterPressed: box.apply()
     }
     BasicButton {
-        text: box.solver.currentAction && box.solver.currentAction.action === MultiEditAction.Search
+        text: box.solver?.currentAction?.action === MultiEditAction.Search
               ? Strings.text("UI_TABLE_MULTIPLE_EDITBOX_FIND_NEXT") : Strings.text("UI_TABLE_MULTIPLE_EDITBOX_APPLY")
-        enabled: box.solver.currentActionIsValid
+        enabled: box.solver?.currentActionIsValid ?? false
         onClicked: box.apply()
     }
     BasicLabel {
-        visible: box.search.active
-        text: box.search.report
-        color: box.search.matchCount > 0 ? BasicConstants.colors.textSecondary : BasicConstants.colors.error
+        visible: box.search?.active ?? false
+        text: box.search?.report ?? ""
+        color: (box.search?.matchCount ?? 0) > 0 ? BasicConstants.colors.textSecondary : BasicConstants.colors.error
     }
     BasicComboBox {
         id: parameters
-        visible: box.contentModel.selectionParametersNames.length > 0
+        visible: (box.contentModel?.selectionParametersNames.length ?? 0) > 0
         Layout.preferredWidth: 130
-        model: box.contentModel.selectionParametersNames
-        displayText: box.contentModel.selectionParametersSelectedIndices.length === 1
+        model: box.contentModel?.selectionParametersNames ?? []
+        displayText: box.contentModel?.selectionParametersSelectedIndices.length === 1
                      ? box.contentModel.selectionParametersNames[box.contentModel.selectionParametersSelectedIndices[0]]
                      : Strings.text("UI_TABLE_MULTIPLE_VALUES")
         onActivated: index => {

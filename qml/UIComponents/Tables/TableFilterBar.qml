@@ -13,12 +13,12 @@ ListView {
     orientation: ListView.Horizontal
     interactive: false
     clip: true
-    model: table.filterBarModel
+    model: table?.filterBarModel ?? null
     delegate: BasicTextField {
         required property int index
         required property string conditionText
         objectName: "filterField_" + index
-        width: { bar.widthsRevision; return bar.table.columnWidth(index) }
+        width: { bar.widthsRevision; return bar.table?.columnWidth(index) ?? 0 }
         height: bar.height
         text: conditionText
         placeholderText: Strings.text("UI_TABLE_FILTER_PLACEHOLDER")
