@@ -6,6 +6,8 @@
 #include "ServiceCatalog.h"
 #include "TranslationStringLoader.h"
 #include "kernel/Directories.h"
+#include "properties/StructuralModel.h"
+#include "properties/StructuralObjectTypes.h"
 #include "qtextensions/ComponentConfigurationStore.h"
 
 #include <QLocale>
@@ -26,7 +28,8 @@ std::shared_ptr<TranslationStringLoader> CreateStringLoader()
     initHostKitResources();
     auto loader = std::make_shared<TranslationStringLoader>();
     // English is the catalogue every identifier has; a translated catalogue replaces it when present.
-    loader->LoadTable(DefaultServices::c_componentsStringTable, QStringLiteral(":/i18n"), QStringLiteral("en"));
+    loader->LoadTable(DefaultServices::c_componentsStringTable, QStringLiteral(":/i18n"),
+                      QStringLiteral("en"));
     const QString language = QLocale().name().section(QLatin1Char('_'), 0, 0);
     if (language != QLatin1String("en") && language != QLatin1String("C"))
         loader->LoadTable(DefaultServices::c_componentsStringTable, QStringLiteral(":/i18n"), language);
@@ -37,11 +40,17 @@ std::shared_ptr<TranslationStringLoader> CreateStringLoader()
 
 void DefaultServices::Install(ServiceCatalog& catalog)
 {
-    catalog.Register<EventBus>(std::make_shared<EventBus>());
+    auto eventBus = std::make_shared<EventBus>();
+    catalog.Register<EventBus>(eventBus);
     catalog.Register<IStringLoader>(CreateStringLoader());
     catalog.Register<UI::QtExtensions::ComponentConfigurationStore>(
         std::make_shared<UI::QtExtensions::ComponentConfigurationStore>(
-            Directories::GetDirectory(Directories::DirectoryType::UserConfigurationDirectory) / "components.json"));
+            Directories::GetDirectory(Directories::DirectoryType::UserConfigurationDirectory)
+            / "components.json"));
+    // The structural model starts empty; a host loads its objects into it.
+    auto structuralModel = std::make_shared<StructuralModel>(eventBus);
+    StructuralObjectTypes::RegisterAll(*structuralModel);
+    catalog.Register<StructuralModel>(structuralModel);
 
     catalog.AddInjector([](IServiceClient& client, ServiceCatalog& services) {
         if (auto* needsBus = dynamic_cast<INeedEventbus*>(&client))
