@@ -5,6 +5,7 @@
 #include "INeedServiceCatalog.h"
 #include "ServiceCatalog.h"
 #include "TranslationStringLoader.h"
+#include "basiccomponents/NumberFormatSettings.h"
 #include "kernel/Directories.h"
 #include "properties/StructuralModel.h"
 #include "properties/StructuralObjectTypes.h"
@@ -43,6 +44,8 @@ void DefaultServices::Install(ServiceCatalog& catalog)
     auto eventBus = std::make_shared<EventBus>();
     catalog.Register<EventBus>(eventBus);
     catalog.Register<IStringLoader>(CreateStringLoader());
+    catalog.Register<UI::BasicComponents::NumberFormatSettings>(
+        std::make_shared<UI::BasicComponents::NumberFormatSettings>());
     catalog.Register<UI::QtExtensions::ComponentConfigurationStore>(
         std::make_shared<UI::QtExtensions::ComponentConfigurationStore>(
             Directories::GetDirectory(Directories::DirectoryType::UserConfigurationDirectory)
