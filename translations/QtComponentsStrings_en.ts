@@ -19,5 +19,349 @@
         <source>Components</source>
         <translation>Tables, numeric inputs, the marking menu, the properties panel and keyboard shortcuts of the structural model.</translation>
     </message>
+    <message id="UI_CHOICE_ACTION_IMPOSED">
+        <source>Imposed</source>
+        <translation>Imposed</translation>
+    </message>
+    <message id="UI_CHOICE_ACTION_PERMANENT">
+        <source>Permanent</source>
+        <translation>Permanent</translation>
+    </message>
+    <message id="UI_CHOICE_ACTION_SNOW">
+        <source>Snow</source>
+        <translation>Snow</translation>
+    </message>
+    <message id="UI_CHOICE_ACTION_WIND">
+        <source>Wind</source>
+        <translation>Wind</translation>
+    </message>
+    <message id="UI_CHOICE_GLOBAL">
+        <source>Global</source>
+        <translation>Global</translation>
+    </message>
+    <message id="UI_CHOICE_LOCAL">
+        <source>Local</source>
+        <translation>Local</translation>
+    </message>
+    <message id="UI_CHOICE_MATERIAL_C30">
+        <source>C30/37</source>
+        <translation>C30/37</translation>
+    </message>
+    <message id="UI_CHOICE_MATERIAL_GL24H">
+        <source>GL24h</source>
+        <translation>GL24h</translation>
+    </message>
+    <message id="UI_CHOICE_MATERIAL_S235">
+        <source>S235</source>
+        <translation>S235</translation>
+    </message>
+    <message id="UI_CHOICE_MATERIAL_S275">
+        <source>S275</source>
+        <translation>S275</translation>
+    </message>
+    <message id="UI_CHOICE_MATERIAL_S355">
+        <source>S355</source>
+        <translation>S355</translation>
+    </message>
+    <message id="UI_CHOICE_MATERIAL_S460">
+        <source>S460</source>
+        <translation>S460</translation>
+    </message>
+    <message id="UI_CHOICE_SECTION_CIRCLE">
+        <source>Circle</source>
+        <translation>Circle</translation>
+    </message>
+    <message id="UI_CHOICE_SECTION_I">
+        <source>I-section</source>
+        <translation>I-section</translation>
+    </message>
+    <message id="UI_CHOICE_SECTION_RECTANGLE">
+        <source>Rectangle</source>
+        <translation>Rectangle</translation>
+    </message>
+    <message id="UI_CHOICE_SUPPORT_FIXED">
+        <source>Fixed</source>
+        <translation>Fixed</translation>
+    </message>
+    <message id="UI_CHOICE_SUPPORT_FREE">
+        <source>Free</source>
+        <translation>Free</translation>
+    </message>
+    <message id="UI_CHOICE_SUPPORT_PINNED">
+        <source>Pinned</source>
+        <translation>Pinned</translation>
+    </message>
+    <message id="UI_CHOICE_SUPPORT_ROLLER">
+        <source>Roller</source>
+        <translation>Roller</translation>
+    </message>
+    <message id="UI_OBJECT_LOAD_CASE">
+        <source>Load case</source>
+        <translation>Load case</translation>
+    </message>
+    <message id="UI_OBJECT_LOAD_CASES">
+        <source>Load cases</source>
+        <translation>Load cases</translation>
+    </message>
+    <message id="UI_OBJECT_MEMBER">
+        <source>Member</source>
+        <translation>Member</translation>
+    </message>
+    <message id="UI_OBJECT_MEMBERS">
+        <source>Members</source>
+        <translation>Members</translation>
+    </message>
+    <message id="UI_OBJECT_NODE">
+        <source>Node</source>
+        <translation>Node</translation>
+    </message>
+    <message id="UI_OBJECT_NODES">
+        <source>Nodes</source>
+        <translation>Nodes</translation>
+    </message>
+    <message id="UI_PARAMETER_FAVOURABLE">
+        <source>Favourable</source>
+        <translation>Favourable</translation>
+    </message>
+    <message id="UI_PARAMETER_PERMANENT">
+        <source>Permanent</source>
+        <translation>Permanent</translation>
+    </message>
+    <message id="UI_PARAMETER_VARIABLE">
+        <source>Variable</source>
+        <translation>Variable</translation>
+    </message>
+    <message id="UI_PROPERTIES_ACTION_PLACE_ON_GROUND">
+        <source>Place on ground</source>
+        <translation>Place on ground</translation>
+    </message>
+    <message id="UI_PROPERTIES_ACTION_RESET_DEFAULTS">
+        <source>Reset to defaults</source>
+        <translation>Reset to defaults</translation>
+    </message>
+    <message id="UI_PROPERTIES_ACTION_REVERSE_MEMBER">
+        <source>Reverse direction</source>
+        <translation>Reverse direction</translation>
+    </message>
+    <message id="UI_PROPERTIES_CATEGORY_ANALYSIS">
+        <source>Analysis</source>
+        <translation>Analysis</translation>
+    </message>
+    <message id="UI_PROPERTIES_CATEGORY_CROSS_SECTION">
+        <source>Cross-section</source>
+        <translation>Cross-section</translation>
+    </message>
+    <message id="UI_PROPERTIES_CATEGORY_DISPLAY">
+        <source>Display</source>
+        <translation>Display</translation>
+    </message>
+    <message id="UI_PROPERTIES_CATEGORY_GENERAL">
+        <source>General</source>
+        <translation>General</translation>
+    </message>
+    <message id="UI_PROPERTIES_CATEGORY_GEOMETRY">
+        <source>Geometry</source>
+        <translation>Geometry</translation>
+    </message>
+    <message id="UI_PROPERTIES_CATEGORY_MATERIAL">
+        <source>Material</source>
+        <translation>Material</translation>
+    </message>
+    <message id="UI_PROPERTIES_CATEGORY_RELEASES">
+        <source>Releases</source>
+        <translation>Releases</translation>
+    </message>
+    <message id="UI_PROPERTIES_CATEGORY_SUPPORT">
+        <source>Support</source>
+        <translation>Support</translation>
+    </message>
+    <message id="UI_PROPERTIES_ENTITY_ALL">
+        <source>All objects</source>
+        <translation>All objects</translation>
+    </message>
+    <message id="UI_PROPERTIES_NO_SELECTION">
+        <source>No selection</source>
+        <translation>No selection</translation>
+    </message>
+    <message id="UI_PROPERTIES_SUB_COORDINATES">
+        <source>Coordinates</source>
+        <translation>Coordinates</translation>
+    </message>
+    <message id="UI_PROPERTIES_SUB_DIMENSIONS">
+        <source>Dimensions</source>
+        <translation>Dimensions</translation>
+    </message>
+    <message id="UI_PROPERTIES_SUB_NODES">
+        <source>Nodes</source>
+        <translation>Nodes</translation>
+    </message>
+    <message id="UI_PROPERTIES_SUB_PLATES">
+        <source>Plates</source>
+        <translation>Plates</translation>
+    </message>
+    <message id="UI_PROPERTIES_SUB_ROTATIONAL_SPRINGS">
+        <source>Rotational springs</source>
+        <translation>Rotational springs</translation>
+    </message>
+    <message id="UI_PROPERTIES_SUB_SELF_WEIGHT">
+        <source>Self-weight</source>
+        <translation>Self-weight</translation>
+    </message>
+    <message id="UI_PROPERTIES_SUB_SPRINGS">
+        <source>Springs</source>
+        <translation>Springs</translation>
+    </message>
+    <message id="UI_PROPERTIES_TITLE_MANY">
+        <source>%1 objects selected</source>
+        <translation>%1 objects selected</translation>
+    </message>
+    <message id="UI_PROPERTIES_TITLE_ONE">
+        <source>%1 %2</source>
+        <translation>%1 %2</translation>
+    </message>
+    <message id="UI_PROP_ACTION_CATEGORY">
+        <source>Action category</source>
+        <translation>Action category</translation>
+    </message>
+    <message id="UI_PROP_ACTIVE">
+        <source>Active in analysis</source>
+        <translation>Active in analysis</translation>
+    </message>
+    <message id="UI_PROP_COLOR">
+        <source>Colour</source>
+        <translation>Colour</translation>
+    </message>
+    <message id="UI_PROP_COMMENT">
+        <source>Comment</source>
+        <translation>Comment</translation>
+    </message>
+    <message id="UI_PROP_COORDINATE_SYSTEM">
+        <source>Coordinate system</source>
+        <translation>Coordinate system</translation>
+    </message>
+    <message id="UI_PROP_ELASTIC_MODULUS">
+        <source>Elastic modulus E</source>
+        <translation>Elastic modulus E</translation>
+    </message>
+    <message id="UI_PROP_END_NODE">
+        <source>End node</source>
+        <translation>End node</translation>
+    </message>
+    <message id="UI_PROP_FACTOR_X">
+        <source>Factor in X</source>
+        <translation>Factor in X</translation>
+    </message>
+    <message id="UI_PROP_FACTOR_Y">
+        <source>Factor in Y</source>
+        <translation>Factor in Y</translation>
+    </message>
+    <message id="UI_PROP_FACTOR_Z">
+        <source>Factor in Z</source>
+        <translation>Factor in Z</translation>
+    </message>
+    <message id="UI_PROP_FLANGE_THICKNESS">
+        <source>Flange thickness t&lt;sub&gt;f&lt;/sub&gt;</source>
+        <translation>Flange thickness t&lt;sub&gt;f&lt;/sub&gt;</translation>
+    </message>
+    <message id="UI_PROP_HEIGHT">
+        <source>Height h</source>
+        <translation>Height h</translation>
+    </message>
+    <message id="UI_PROP_HINGE_END">
+        <source>Hinge at end</source>
+        <translation>Hinge at end</translation>
+    </message>
+    <message id="UI_PROP_HINGE_START">
+        <source>Hinge at start</source>
+        <translation>Hinge at start</translation>
+    </message>
+    <message id="UI_PROP_MATERIAL">
+        <source>Material</source>
+        <translation>Material</translation>
+    </message>
+    <message id="UI_PROP_NAME">
+        <source>Name</source>
+        <translation>Name</translation>
+    </message>
+    <message id="UI_PROP_NUMBER">
+        <source>Number</source>
+        <translation>Number</translation>
+    </message>
+    <message id="UI_PROP_PARTIAL_FACTOR">
+        <source>Partial factor γ&lt;sub&gt;F&lt;/sub&gt;</source>
+        <translation>Partial factor γ&lt;sub&gt;F&lt;/sub&gt;</translation>
+    </message>
+    <message id="UI_PROP_ROTATION">
+        <source>Rotation β</source>
+        <translation>Rotation β</translation>
+    </message>
+    <message id="UI_PROP_SECTION_SHAPE">
+        <source>Shape</source>
+        <translation>Shape</translation>
+    </message>
+    <message id="UI_PROP_SELF_WEIGHT">
+        <source>Include self-weight</source>
+        <translation>Include self-weight</translation>
+    </message>
+    <message id="UI_PROP_SHOW_LABEL">
+        <source>Show label</source>
+        <translation>Show label</translation>
+    </message>
+    <message id="UI_PROP_SPRING_ROT_X">
+        <source>Spring k&lt;sub&gt;φx&lt;/sub&gt;</source>
+        <translation>Spring k&lt;sub&gt;φx&lt;/sub&gt;</translation>
+    </message>
+    <message id="UI_PROP_SPRING_ROT_Y">
+        <source>Spring k&lt;sub&gt;φy&lt;/sub&gt;</source>
+        <translation>Spring k&lt;sub&gt;φy&lt;/sub&gt;</translation>
+    </message>
+    <message id="UI_PROP_SPRING_ROT_Z">
+        <source>Spring k&lt;sub&gt;φz&lt;/sub&gt;</source>
+        <translation>Spring k&lt;sub&gt;φz&lt;/sub&gt;</translation>
+    </message>
+    <message id="UI_PROP_SPRING_X">
+        <source>Spring k&lt;sub&gt;x&lt;/sub&gt;</source>
+        <translation>Spring k&lt;sub&gt;x&lt;/sub&gt;</translation>
+    </message>
+    <message id="UI_PROP_SPRING_Y">
+        <source>Spring k&lt;sub&gt;y&lt;/sub&gt;</source>
+        <translation>Spring k&lt;sub&gt;y&lt;/sub&gt;</translation>
+    </message>
+    <message id="UI_PROP_SPRING_Z">
+        <source>Spring k&lt;sub&gt;z&lt;/sub&gt;</source>
+        <translation>Spring k&lt;sub&gt;z&lt;/sub&gt;</translation>
+    </message>
+    <message id="UI_PROP_START_NODE">
+        <source>Start node</source>
+        <translation>Start node</translation>
+    </message>
+    <message id="UI_PROP_SUPPORT_TYPE">
+        <source>Support type</source>
+        <translation>Support type</translation>
+    </message>
+    <message id="UI_PROP_WEB_THICKNESS">
+        <source>Web thickness t&lt;sub&gt;w&lt;/sub&gt;</source>
+        <translation>Web thickness t&lt;sub&gt;w&lt;/sub&gt;</translation>
+    </message>
+    <message id="UI_PROP_WIDTH">
+        <source>Width b</source>
+        <translation>Width b</translation>
+    </message>
+    <message id="UI_PROP_X">
+        <source>X</source>
+        <translation>X</translation>
+    </message>
+    <message id="UI_PROP_Y">
+        <source>Y</source>
+        <translation>Y</translation>
+    </message>
+    <message id="UI_PROP_YIELD_STRENGTH">
+        <source>Yield strength f&lt;sub&gt;y&lt;/sub&gt;</source>
+        <translation>Yield strength f&lt;sub&gt;y&lt;/sub&gt;</translation>
+    </message>
+    <message id="UI_PROP_Z">
+        <source>Z</source>
+        <translation>Z</translation>
+    </message>
 </context>
 </TS>

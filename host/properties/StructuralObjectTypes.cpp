@@ -156,8 +156,7 @@ ObjectType StructuralObjectTypes::CreateMember()
                                           QStringLiteral("UI_PROP_ROTATION"))
                            .WithCategory(c_geometry)
                            .WithUnits(QStringLiteral("°"), 1)
-                           .WithRange(-180.0, 180.0)
-                           .WithRichTextName());
+                           .WithRange(-180.0, 180.0));
     member.AddProperty(PropertyDefinition(QStringLiteral("member.sectionShape"), PropertyType::List,
                                           QStringLiteral("UI_PROP_SECTION_SHAPE"))
                            .WithCategory(c_crossSection)

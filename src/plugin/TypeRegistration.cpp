@@ -1,6 +1,13 @@
 #include "TypeRegistration.h"
 
 #include "StringsQtComponents.h"
+#include "properties/ActionsModel.h"
+#include "properties/EntityModel.h"
+#include "properties/IllustrationData.h"
+#include "properties/PropertiesModel.h"
+#include "properties/PropertiesPanel.h"
+#include "properties/PropertiesPanelUserConfiguration.h"
+#include "properties/PropertiesProxyModel.h"
 #include "qtextensions/FramelessWindow.h"
 
 #include <QQmlEngine>
@@ -23,6 +30,13 @@ void RegisterQtComponentsTypes(const char* uri)
     constexpr int minor = 0;
 
     // The order below is the module's registration order; keep new rows in their place.
+    qmlRegisterType<PropertiesPanelUserConfiguration>(uri, major, minor, "PropertiesPanelUserConfiguration");
+    qmlRegisterType<ActionsModel>(uri, major, minor, "ActionsModel");
+    qmlRegisterType<EntityModel>(uri, major, minor, "EntityModel");
+    qmlRegisterType<PropertiesModel>(uri, major, minor, "PropertiesModel");
+    qmlRegisterType<PropertiesPanel>(uri, major, minor, "PropertiesPanel_Cpp");
+    qmlRegisterType<PropertiesProxyModel>(uri, major, minor, "PropertiesProxyModel");
+    qmlRegisterType<IllustrationData>(uri, major, minor, "IllustrationData");
     qmlRegisterType<QtExtensions::FramelessWindow>(uri, major, minor, "FramelessWindow");
     qmlRegisterSingletonType<StringsQtComponents>(uri, major, minor, "Strings", CreateStrings);
 }

@@ -1,0 +1,41 @@
+#pragma once
+
+#include <QObject>
+#include <QString>
+
+namespace Orvo::UI::UIComponents {
+
+// The picture that explains the property the user is working on (what h and b measure on a
+// cross-section, what each support type holds), shown below the properties list.
+class IllustrationData : public QObject
+{
+    Q_OBJECT
+    Q_PROPERTY(QString source READ source NOTIFY sourceChanged)
+    Q_PROPERTY(QString title READ title NOTIFY titleChanged)
+    Q_PROPERTY(bool available READ isAvailable NOTIFY availableChanged)
+
+public:
+    explicit IllustrationData(QObject* parent = nullptr);
+
+    QString source() const { return m_source; }
+    QString title() const { return m_title; }
+    bool isAvailable() const { return !m_source.isEmpty(); }
+
+    // Shows the image at relativePath below the application directory. A missing file is
+    // logged and shows nothing.
+    void Show(const QString& title, const QString& relativePath);
+    void Clear();
+
+signals:
+    void sourceChanged();
+    void titleChanged();
+    void availableChanged();
+
+private:
+    void Set(const QString& title, const QString& source);
+
+    QString m_source;
+    QString m_title;
+};
+
+} // namespace Orvo::UI::UIComponents
