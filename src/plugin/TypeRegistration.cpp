@@ -9,6 +9,9 @@
 #include "properties/PropertiesPanelUserConfiguration.h"
 #include "properties/PropertiesProxyModel.h"
 #include "qtextensions/FramelessWindow.h"
+#include "valueentry/InlineCalculator.h"
+#include "valueentry/IntegerValidator.h"
+#include "valueentry/RealValidator.h"
 
 #include <QQmlEngine>
 
@@ -36,6 +39,9 @@ void RegisterQtComponentsTypes(const char* uri)
     qmlRegisterType<PropertiesModel>(uri, major, minor, "PropertiesModel");
     qmlRegisterType<PropertiesPanel>(uri, major, minor, "PropertiesPanel_Cpp");
     qmlRegisterType<PropertiesProxyModel>(uri, major, minor, "PropertiesProxyModel");
+    qmlRegisterType<IntegerValidator>(uri, major, minor, "IntegerValidator");
+    qmlRegisterType<RealValidator>(uri, major, minor, "RealValidator");
+    qmlRegisterType<InlineCalculator>(uri, major, minor, "InlineCalculator");
     qmlRegisterType<IllustrationData>(uri, major, minor, "IllustrationData");
     qmlRegisterType<QtExtensions::FramelessWindow>(uri, major, minor, "FramelessWindow");
     qmlRegisterSingletonType<StringsQtComponents>(uri, major, minor, "Strings", CreateStrings);
