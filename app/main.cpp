@@ -1,12 +1,17 @@
 #include "DemoOptions.h"
+#include "SampleObjectsModel.h"
 #include "ScreenshotTaker.h"
 
 #include "framework/HostApplication.h"
+#include "framework/ServiceCatalog.h"
+#include "properties/SampleStructure.h"
+#include "properties/StructuralModel.h"
 
 #include <QDir>
 #include <QGuiApplication>
 #include <QQmlApplicationEngine>
 #include <QQmlContext>
+#include <QQmlEngine>
 #include <QQuickStyle>
 #include <QQuickWindow>
 #include <cstdio>
@@ -44,15 +49,21 @@ int main(int argc, char** argv)
         return 2;
     }
 
-    Orvo::Kernel::Framework::HostApplication::Start(QGuiApplication::applicationDirPath().toStdWString());
+    auto services = Orvo::Kernel::Framework::HostApplication::Start(
+        QGuiApplication::applicationDirPath().toStdWString());
+    // The demo's model: a small frame whose objects the pages select and edit.
+    Orvo::Kernel::Framework::SampleStructure::Fill(
+        *services->Get<Orvo::Kernel::Framework::StructuralModel>());
+    qmlRegisterType<SampleObjectsModel>("Demo", 1, 0, "SampleObjectsModel");
 
     QQmlApplicationEngine engine;
     // The build lays the QML import directory out beside bin/.
-    engine.addImportPath(QDir(QGuiApplication::applicationDirPath()).absoluteFilePath(QStringLiteral("../qml")));
+    engine.addImportPath(
+        QDir(QGuiApplication::applicationDirPath()).absoluteFilePath(QStringLiteral("../qml")));
     engine.rootContext()->setContextProperty(QStringLiteral("initialPage"), options.page);
     QObject::connect(
-        &engine, &QQmlApplicationEngine::objectCreationFailed, &application, []() { QCoreApplication::exit(1); },
-        Qt::QueuedConnection);
+        &engine, &QQmlApplicationEngine::objectCreationFailed, &application,
+        []() { QCoreApplication::exit(1); }, Qt::QueuedConnection);
     engine.load(QUrl(QStringLiteral("qrc:/demo/qml/Main.qml")));
     if (engine.rootObjects().isEmpty())
         return 1;
@@ -62,7 +73,8 @@ int main(int argc, char** argv)
         return 1;
 
     if (!options.screenshotFile.isEmpty()) {
-        auto* taker = new ScreenshotTaker(window, options.screenshotFile, options.screenshotDelayMs, &application);
+        auto* taker
+            = new ScreenshotTaker(window, options.screenshotFile, options.screenshotDelayMs, &application);
         taker->Start();
     }
     return QGuiApplication::exec();

@@ -419,5 +419,101 @@
         <source>Expressions evaluated by the calculator</source>
         <translation>Expressions evaluated by the calculator</translation>
     </message>
+    <message id="UI_PROPERTIES_MIXED">
+        <source>Mixed</source>
+        <translation>Mixed</translation>
+    </message>
+    <message id="UI_PROPERTIES_MIXED_VALUES">
+        <source>%1 different values</source>
+        <translation>%1 different values</translation>
+    </message>
+    <message id="UI_PROPERTIES_RESET_TO_DEFAULT">
+        <source>Reset to default</source>
+        <translation>Reset to default</translation>
+    </message>
+    <message id="UI_PROPERTIES_YES">
+        <source>Yes</source>
+        <translation>Yes</translation>
+    </message>
+    <message id="UI_PROPERTIES_NO">
+        <source>No</source>
+        <translation>No</translation>
+    </message>
+    <message id="UI_PROPERTIES_EMPTY_TEXT">
+        <source>(empty)</source>
+        <translation>(empty)</translation>
+    </message>
+    <message id="UI_PROPERTIES_BASIC">
+        <source>Basic</source>
+        <translation>Basic</translation>
+    </message>
+    <message id="UI_PROPERTIES_ADVANCED">
+        <source>Advanced</source>
+        <translation>Advanced</translation>
+    </message>
+    <message id="UI_PROPERTIES_EXPAND_ALL">
+        <source>Expand all</source>
+        <translation>Expand all</translation>
+    </message>
+    <message id="UI_PROPERTIES_ILLUSTRATIONS">
+        <source>Illustrations</source>
+        <translation>Illustrations</translation>
+    </message>
+    <message id="UI_PROPERTIES_EMPTY">
+        <source>Select objects to see and edit their properties.</source>
+        <translation>Select objects to see and edit their properties.</translation>
+    </message>
+    <message id="UI_PROPERTIES_NOTHING_IN_BASIC_MODE">
+        <source>The selected objects have no basic property in common. Switch to Advanced to see all of them.</source>
+        <translation>The selected objects have no basic property in common. Switch to Advanced to see all of them.</translation>
+    </message>
+    <message id="UI_DEMO_NODE_SUMMARY">
+        <source>(%1; %2; %3) m  ·  %4</source>
+        <translation>(%1; %2; %3) m  ·  %4</translation>
+    </message>
+    <message id="UI_DEMO_MEMBER_SUMMARY">
+        <source>%1 → %2  ·  %3 %4 × %5 mm  ·  %6</source>
+        <translation>%1 → %2  ·  %3 %4 × %5 mm  ·  %6</translation>
+    </message>
+    <message id="UI_DEMO_LOAD_CASE_SUMMARY">
+        <source>%1  ·  γF %2  ·  self-weight %3</source>
+        <translation>%1  ·  γF %2  ·  self-weight %3</translation>
+    </message>
+    <message id="UI_APP_PAGE_PROPERTIES">
+        <source>Properties</source>
+        <translation>Properties</translation>
+    </message>
+    <message id="UI_DEMO_OBJECTS">
+        <source>Structural model</source>
+        <translation>Structural model</translation>
+    </message>
+    <message id="UI_DEMO_OBJECTS_HINT">
+        <source>Click an object to select it, Ctrl-click to add or remove one, Shift-click for a range. The panel edits every selected object at once; the list shows their values change.</source>
+        <translation>Click an object to select it, Ctrl-click to add or remove one, Shift-click for a range. The panel edits every selected object at once; the list shows their values change.</translation>
+    </message>
+    <message id="UI_DEMO_SELECT_NODES">
+        <source>Nodes</source>
+        <translation>Nodes</translation>
+    </message>
+    <message id="UI_DEMO_SELECT_MEMBERS">
+        <source>Members</source>
+        <translation>Members</translation>
+    </message>
+    <message id="UI_DEMO_SELECT_LOAD_CASES">
+        <source>Load cases</source>
+        <translation>Load cases</translation>
+    </message>
+    <message id="UI_DEMO_SELECT_ALL">
+        <source>All</source>
+        <translation>All</translation>
+    </message>
+    <message id="UI_DEMO_SELECT_NONE">
+        <source>None</source>
+        <translation>None</translation>
+    </message>
+    <message id="UI_DEMO_SELECT">
+        <source>Select:</source>
+        <translation>Select:</translation>
+    </message>
 </context>
 </TS>

@@ -59,7 +59,7 @@ public:
     int decimals = 3;
     QStringList choiceIds;
     std::vector<NamedParameter> parameters;
-    QString illustration; // image path relative to the application directory
+    QString illustration; // image or QML drawing, relative to the application directory
 };
 
 } // namespace Orvo::Kernel::Framework

@@ -15,7 +15,7 @@ const QString c_releases = QStringLiteral("UI_PROPERTIES_CATEGORY_RELEASES");
 const QString c_analysis = QStringLiteral("UI_PROPERTIES_CATEGORY_ANALYSIS");
 const QString c_display = QStringLiteral("UI_PROPERTIES_CATEGORY_DISPLAY");
 
-const QString c_crossSectionIllustration = QStringLiteral("Illustrations/CrossSection.svg");
+const QString c_crossSectionIllustration = QStringLiteral("Illustrations/CrossSection.qml");
 
 PropertyValue Integer(std::int32_t value)
 {
@@ -108,7 +108,7 @@ ObjectType StructuralObjectTypes::CreateNode()
                                         QStringLiteral("UI_CHOICE_SUPPORT_PINNED"),
                                         QStringLiteral("UI_CHOICE_SUPPORT_FIXED"),
                                         QStringLiteral("UI_CHOICE_SUPPORT_ROLLER") })
-                         .WithIllustration(QStringLiteral("Illustrations/SupportTypes.svg")));
+                         .WithIllustration(QStringLiteral("Illustrations/SupportTypes.qml")));
     const QStringList springs { QStringLiteral("UI_PROPERTIES_SUB_SPRINGS") };
     const QStringList rotational { QStringLiteral("UI_PROPERTIES_SUB_SPRINGS"),
                                    QStringLiteral("UI_PROPERTIES_SUB_ROTATIONAL_SPRINGS") };

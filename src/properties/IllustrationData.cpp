@@ -15,7 +15,7 @@ IllustrationData::IllustrationData(QObject* parent)
     : QObject(parent)
 { }
 
-void IllustrationData::Show(const QString& title, const QString& relativePath)
+void IllustrationData::Show(const QString& title, const QString& relativePath, const QString& subject)
 {
     if (relativePath.isEmpty()) {
         Clear();
@@ -31,20 +31,24 @@ void IllustrationData::Show(const QString& title, const QString& relativePath)
         Clear();
         return;
     }
-    Set(title, QtExtensions::File::createQmlFilePath(file));
+    Set(title, QtExtensions::File::createQmlFilePath(file), subject);
 }
 
 void IllustrationData::Clear()
 {
-    Set(QString(), QString());
+    Set(QString(), QString(), QString());
 }
 
-void IllustrationData::Set(const QString& title, const QString& source)
+void IllustrationData::Set(const QString& title, const QString& source, const QString& subject)
 {
     const bool wasAvailable = isAvailable();
     if (m_title != title) {
         m_title = title;
         emit titleChanged();
+    }
+    if (m_subject != subject) {
+        m_subject = subject;
+        emit subjectChanged();
     }
     if (m_source != source) {
         m_source = source;

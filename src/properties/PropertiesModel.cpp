@@ -439,11 +439,13 @@ PropertyItemValues PropertiesModel::CollectValues(const PropertyDefinition& defi
         }
         if (values.distinct.AddUnique(PropertyValueConversion::ToMixedValue(value, definition)))
             values.parameterIndices.push_back(ParameterIndexOf(value, definition));
-        // Kinds of object may share a property but not its default.
+        // Kinds of object may share a property but not its default. A read-only value is the
+        // host's, so it does not count as the user's change.
         const PropertyValue& ownDefault = object->Type().FindProperty(definition.key)->defaultValue;
         if (!definition.Check(value).isEmpty())
             values.highlight = PropertyItemValues::Error;
-        else if (value != ownDefault && values.highlight == PropertyItemValues::Default)
+        else if (!definition.readOnly && value != ownDefault
+                 && values.highlight == PropertyItemValues::Default)
             values.highlight = PropertyItemValues::DefaultModified;
     }
     values.distinctCount = values.distinct.GetCount();

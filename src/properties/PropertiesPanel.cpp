@@ -110,7 +110,7 @@ void PropertiesPanel::showIllustration(const QString& uuid)
         m_illustration->Clear();
         return;
     }
-    m_illustration->Show(GetText(definition->nameId), definition->illustration);
+    m_illustration->Show(GetText(definition->nameId), definition->illustration, definition->key);
 }
 
 void PropertiesPanel::loadConfiguration(const QString& userConfiguration)

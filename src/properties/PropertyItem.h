@@ -14,7 +14,7 @@ struct PropertyItemValues
     enum HighlightState : int
     {
         Default = 0, // every object holds the default
-        DefaultModified = 1, // at least one object holds another value
+        DefaultModified = 1, // at least one object holds another value (editable properties only)
         Error = 3, // at least one value lies outside what the property accepts
     };
 

@@ -268,9 +268,9 @@ void tst_PropertiesPanel::actionsRunOnTheCurrentObjects()
 void tst_PropertiesPanel::illustrationOfTheProperty()
 {
     QVERIFY(QDir().mkpath(m_directory.filePath("application/Illustrations")));
-    QFile image(m_directory.filePath("application/Illustrations/CrossSection.svg"));
+    QFile image(m_directory.filePath("application/Illustrations/CrossSection.qml"));
     QVERIFY(image.open(QIODevice::WriteOnly));
-    image.write("<svg xmlns=\"http://www.w3.org/2000/svg\"/>");
+    image.write("import QtQuick\nItem {}\n");
     image.close();
     m_structure->Select({ OfType(StructuralObjectTypes::c_member).front() });
     IllustrationData& illustration = *m_panel->illustration();
@@ -280,15 +280,16 @@ void tst_PropertiesPanel::illustrationOfTheProperty()
     m_panel->showIllustration(UuidOf("member.height"));
     QVERIFY(illustration.isAvailable());
     QVERIFY(illustration.source().startsWith("file:"));
-    QVERIFY(illustration.source().endsWith("application/Illustrations/CrossSection.svg"));
+    QVERIFY(illustration.source().endsWith("application/Illustrations/CrossSection.qml"));
     QCOMPARE(illustration.title(), "Height h");
+    QCOMPARE(illustration.subject(), "member.height");
     QCOMPARE(availableChanged.count(), 1);
 
     m_panel->showIllustration(UuidOf("general.name"));
     QVERIFY(!illustration.isAvailable());
 
     QVERIFY(image.remove());
-    QTest::ignoreMessage(QtWarningMsg, QRegularExpression("Illustration .*CrossSection.svg is missing"));
+    QTest::ignoreMessage(QtWarningMsg, QRegularExpression("Illustration .*CrossSection.qml is missing"));
     m_panel->showIllustration(UuidOf("member.width"));
     QVERIFY(!illustration.isAvailable());
 }
