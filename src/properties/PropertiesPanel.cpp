@@ -37,6 +37,12 @@ PropertiesPanel::PropertiesPanel(QQuickItem* parent)
         emit inBasicModeChanged();
     });
     connect(m_entities, &EntityModel::currentObjectsChanged, this, &PropertiesPanel::ShowCurrentEntity);
+    // The user's choices reach the host as they are made, not only when the window closes,
+    // which a panel torn down with its window does not live to see.
+    for (auto changed : { &PropertiesPanelUserConfiguration::collapsedCategoriesChanged,
+                          &PropertiesPanelUserConfiguration::inBasicModeChanged,
+                          &PropertiesPanelUserConfiguration::illustrationVisibleChanged })
+        connect(m_configuration, changed, this, &PropertiesPanel::storeConfiguration);
 
     auto catalog = ServiceCatalog::Global();
     m_structuralModel = catalog->Get<StructuralModel>();

@@ -51,6 +51,7 @@ private slots:
     void mixedValuesAreMarkedAndOffered();
     void advancedModeShowsEveryProperty();
     void hoveringAPropertyShowsItsIllustration();
+    void foldedCategoriesSurviveReopening();
 
 private:
     std::vector<ObjectId> OfType(const QString& type) const;
@@ -58,6 +59,7 @@ private:
     int ListCount() const;
     void Click(QQuickItem* item);
     void SaveScreenshot(const QString& name);
+    void OpenView();
 
     QTemporaryDir m_directory;
     std::shared_ptr<StructuralModel> m_structure;
@@ -80,11 +82,18 @@ void tst_PropertiesPanelView::initTestCase()
 
 void tst_PropertiesPanelView::init()
 {
+    // Every test starts from a user who never folded or switched anything.
+    QFile::remove(m_directory.filePath("config/components.json"));
     auto catalog = ServiceCatalog::CreateWithDefaults();
     ServiceCatalog::SetGlobal(catalog);
     m_structure = catalog->Get<StructuralModel>();
     SampleStructure::Fill(*m_structure);
 
+    OpenView();
+}
+
+void tst_PropertiesPanelView::OpenView()
+{
     m_view = std::make_unique<QQuickView>();
     m_view->engine()->addImportPath(qEnvironmentVariable("QTC_QML_IMPORT_DIR"));
     m_view->setSource(QUrl::fromLocalFile(m_directory.filePath("PanelWindow.qml")));
@@ -154,7 +163,7 @@ void tst_PropertiesPanelView::foldingACategoryHidesItsRows()
 
     Click(Item(geometryHeader));
     QTRY_COMPARE(ListCount(), expanded);
-    QVERIFY(Item(xRow));
+    QTRY_VERIFY(Item(xRow));
 }
 
 void tst_PropertiesPanelView::typingIntoAnEditorChangesEverySelectedObject()
@@ -249,6 +258,27 @@ void tst_PropertiesPanelView::hoveringAPropertyShowsItsIllustration()
     QTest::mouseMove(m_view.get(),
                      Item("propertyRow_" + UuidOf("general.name"))->mapToScene(QPointF(20, 10)).toPoint());
     QTRY_VERIFY(!Item("illustrationView"));
+}
+
+void tst_PropertiesPanelView::foldedCategoriesSurviveReopening()
+{
+    m_structure->Select({ OfType(StructuralObjectTypes::c_node).front() });
+    const QString supportHeader = "categoryHeader_UI_PROPERTIES_CATEGORY_SUPPORT";
+    const QString supportRow = "propertyRow_" + UuidOf("node.supportType");
+    QTRY_VERIFY(Item(supportRow));
+    Click(Item(supportHeader));
+    QTRY_VERIFY(!Item(supportRow));
+
+    // The panel hands its configuration to the host as it changes; the host keeps it.
+    m_view.reset();
+    OpenView();
+
+    QTRY_VERIFY(Item(supportHeader));
+    QVERIFY(Item(supportHeader)->property("collapsed").toBool());
+    QVERIFY(!Item(supportRow));
+    QVERIFY(Item("expandAllButton"));
+    Click(Item("expandAllButton"));
+    QTRY_VERIFY(Item(supportRow));
 }
 
 QTEST_MAIN(tst_PropertiesPanelView)

@@ -13,6 +13,9 @@ import UIComponents.Constants
 PropertiesPanel_Cpp {
     id: propertiesPanel
 
+    // A fixed key: the host stores the user's folded categories and mode under it, and a
+    // class name can change with every document that extends the panel.
+    configurationKey: "PropertiesPanel"
     implicitWidth: 360
     implicitHeight: 640
     clip: true
