@@ -20,7 +20,7 @@ Rectangle {
         id: segment
         property bool selected: false
         implicitWidth: label.implicitWidth + 2 * BasicConstants.sizes.margin
-        implicitHeight: root.height - 2
+        implicitHeight: BasicConstants.sizes.controlHeight - 2
         checkable: false
         background: Rectangle {
             radius: BasicConstants.sizes.radius

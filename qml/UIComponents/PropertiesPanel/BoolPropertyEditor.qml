@@ -1,7 +1,6 @@
 import QtQuick
 import Qml.QtComponents
 import Qml.QtBasicComponents
-import BasicComponents.Constants
 
 // Yes/no properties. Mixed values show the partly checked state; a click sets every object.
 Item {
