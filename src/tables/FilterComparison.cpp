@@ -29,7 +29,9 @@ std::optional<double> ConvertNumber(const wchar_t* begin, std::size_t length, bo
 {
     wchar_t* end = nullptr;
     errno = 0;
-    const double value = wcstod_l(begin, &end, NumberLocale());
+    const locale_t locale = NumberLocale();
+    // Without memory for a locale object the process locale has to do.
+    const double value = locale ? wcstod_l(begin, &end, locale) : wcstod(begin, &end);
     if (end == begin || errno == ERANGE)
         return std::nullopt;
     if (!allowTrailingCharacters && end != begin + length)

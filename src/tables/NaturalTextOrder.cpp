@@ -13,7 +13,7 @@ bool IsDecimalDigit(wchar_t c)
     return c >= L'0' && c <= L'9';
 }
 
-// A walk over the runs of two texts. Each Compare...Run call compares the runs at the current
+// A walk over the runs of two texts. Each Compare...Runs call compares the runs at the current
 // positions and moves both positions past them; it returns a negative number when a's run sorts
 // first, a positive one when b's does, and 0 when they are equal.
 class RunWalk

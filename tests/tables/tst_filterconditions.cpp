@@ -271,13 +271,16 @@ private slots:
     void shouldNeverFailOnArbitraryText()
     {
         const QString alphabet = QStringLiteral("<>=[]();,. -+e0159aZøÅ\u0301\u0000\t*");
+        // Among them cells a host should not deliver: negative decimals, a list index past the list.
         const std::vector<TableCellContent> cells { Text("abc"),
                                                     Integer(3),
                                                     Real(2.5, 1),
+                                                    Real(2.5, -3),
                                                     Real(-1e300),
                                                     Bool(true),
                                                     Color("#000000", "Black"),
                                                     List(TableValueType::List, { "a" }, { 1 }, 0),
+                                                    List(TableValueType::Bool, { "a" }, {}, 5),
                                                     {} };
         QRandomGenerator random(42);
         int accepted = 0;
