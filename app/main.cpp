@@ -4,6 +4,7 @@
 
 #include "framework/HostApplication.h"
 #include "framework/ServiceCatalog.h"
+#include "kernel/PathText.h"
 #include "properties/SampleStructure.h"
 #include "properties/StructuralModel.h"
 
@@ -50,7 +51,7 @@ int main(int argc, char** argv)
     }
 
     auto services = Orvo::Kernel::Framework::HostApplication::Start(
-        QGuiApplication::applicationDirPath().toStdWString());
+        Orvo::Kernel::Directories::ToPath(QGuiApplication::applicationDirPath()));
     // The demo's model: a small frame whose objects the pages select and edit.
     Orvo::Kernel::Framework::SampleStructure::Fill(
         *services->Get<Orvo::Kernel::Framework::StructuralModel>());

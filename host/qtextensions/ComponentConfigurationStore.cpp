@@ -1,6 +1,7 @@
 #include "ComponentConfigurationStore.h"
 
 #include "framework/Debug.h"
+#include "kernel/PathText.h"
 
 #include <QDir>
 #include <QFile>
@@ -32,7 +33,7 @@ void ComponentConfigurationStore::Store(const QString& key, const QString& confi
 
 void ComponentConfigurationStore::ReadFile()
 {
-    QFile file(QString::fromStdWString(m_file.wstring()));
+    QFile file(Kernel::Directories::ToQString(m_file));
     if (!file.exists())
         return;
     if (!file.open(QIODevice::ReadOnly)) {
@@ -44,8 +45,8 @@ void ComponentConfigurationStore::ReadFile()
     if (error.error != QJsonParseError::NoError || !document.isObject()) {
         // A damaged file must not cost the user the panels: start from defaults, keep the file
         // aside so nothing is lost.
-        Kernel::Framework::DebugOutput(
-            QStringLiteral("Ignoring damaged component configuration %1: %2").arg(file.fileName(), error.errorString()));
+        Kernel::Framework::DebugOutput(QStringLiteral("Ignoring damaged component configuration %1: %2")
+                                           .arg(file.fileName(), error.errorString()));
         QFile::remove(file.fileName() + QStringLiteral(".damaged"));
         file.close();
         QFile::copy(file.fileName(), file.fileName() + QStringLiteral(".damaged"));
@@ -58,7 +59,7 @@ void ComponentConfigurationStore::ReadFile()
 
 void ComponentConfigurationStore::WriteFile() const
 {
-    const QString path = QString::fromStdWString(m_file.wstring());
+    const QString path = Kernel::Directories::ToQString(m_file);
     QDir().mkpath(QFileInfo(path).absolutePath());
     QJsonObject object;
     for (auto it = m_configurations.begin(); it != m_configurations.end(); ++it)

@@ -2,6 +2,7 @@
 
 #include "PropertiesLogging.h"
 #include "kernel/Directories.h"
+#include "kernel/PathText.h"
 #include "qtextensions/File.h"
 
 #include <filesystem>
@@ -23,11 +24,10 @@ void IllustrationData::Show(const QString& title, const QString& relativePath, c
     }
     const std::filesystem::path file
         = Directories::GetDirectory(Directories::DirectoryType::ApplicationDirectory)
-        / relativePath.toStdWString();
+        / Directories::ToPath(relativePath);
     std::error_code error;
     if (!std::filesystem::is_regular_file(file, error)) {
-        qCWarning(lcProperties).noquote()
-            << "Illustration" << QString::fromStdWString(file.wstring()) << "is missing";
+        qCWarning(lcProperties).noquote() << "Illustration" << Directories::ToQString(file) << "is missing";
         Clear();
         return;
     }

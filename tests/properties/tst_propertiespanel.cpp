@@ -1,5 +1,6 @@
 #include "framework/ServiceCatalog.h"
 #include "kernel/Directories.h"
+#include "kernel/PathText.h"
 #include "properties/PropertiesPanel.h"
 #include "properties/PropertiesRoles.h"
 #include "properties/SampleStructure.h"
@@ -84,9 +85,9 @@ void tst_PropertiesPanel::initTestCase()
 {
     QVERIFY(m_directory.isValid());
     Directories::SetDirectory(Directories::DirectoryType::UserConfigurationDirectory,
-                              m_directory.filePath("config").toStdWString());
+                              Directories::ToPath(m_directory.filePath("config")));
     Directories::SetDirectory(Directories::DirectoryType::ApplicationDirectory,
-                              m_directory.filePath("application").toStdWString());
+                              Directories::ToPath(m_directory.filePath("application")));
 }
 
 void tst_PropertiesPanel::init()

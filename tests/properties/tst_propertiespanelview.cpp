@@ -1,5 +1,6 @@
 #include "framework/ServiceCatalog.h"
 #include "kernel/Directories.h"
+#include "kernel/PathText.h"
 #include "properties/SampleStructure.h"
 #include "properties/StructuralModel.h"
 #include "properties/StructuralObjectTypes.h"
@@ -70,7 +71,7 @@ void tst_PropertiesPanelView::initTestCase()
 {
     QVERIFY(m_directory.isValid());
     Directories::SetDirectory(Directories::DirectoryType::UserConfigurationDirectory,
-                              m_directory.filePath("config").toStdWString());
+                              Directories::ToPath(m_directory.filePath("config")));
     QFile document(m_directory.filePath("PanelWindow.qml"));
     QVERIFY(document.open(QIODevice::WriteOnly));
     // The plugin module comes first: loading it makes the component library importable.
