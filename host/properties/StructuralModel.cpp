@@ -108,20 +108,36 @@ void StructuralModel::Select(const std::vector<ObjectId>& ids)
 StructuralModel::EditResult StructuralModel::SetValue(const std::vector<ObjectId>& ids, const QString& key,
                                                       const PropertyValue& value)
 {
+    return Edit(ids, key, [&value](const PropertyDefinition&) -> const PropertyValue& { return value; });
+}
+
+StructuralModel::EditResult StructuralModel::ResetToDefault(const std::vector<ObjectId>& ids,
+                                                            const QString& key)
+{
+    // Kinds of object may share a property but not its default: each gets its own.
+    return Edit(ids, key, [](const PropertyDefinition& definition) -> const PropertyValue& {
+        return definition.defaultValue;
+    });
+}
+
+StructuralModel::EditResult StructuralModel::Edit(const std::vector<ObjectId>& ids, const QString& key,
+                                                  const ValueFor& valueFor)
+{
     EditResult result;
     std::vector<ObjectId> changed;
     for (ObjectId id : ids) {
         StructuralObject* object = Find(id);
         if (!object || !object->HasProperty(key))
             continue;
-        if (object->Type().FindProperty(key)->readOnly) {
+        const PropertyDefinition& definition = *object->Type().FindProperty(key);
+        if (definition.readOnly) {
             DebugOutput(
                 QStringLiteral("Property %1 is read-only; object %2 keeps its value").arg(key).arg(id));
             ++result.rejected;
             continue;
         }
         QString rejection;
-        switch (object->SetValue(key, value, &rejection)) {
+        switch (object->SetValue(key, valueFor(definition), &rejection)) {
         case StructuralObject::SetResult::Changed:
             ++result.changed;
             changed.push_back(id);
@@ -133,31 +149,6 @@ StructuralModel::EditResult StructuralModel::SetValue(const std::vector<ObjectId
             DebugOutput(QStringLiteral("Object %1 keeps its value: %2").arg(id).arg(rejection));
             ++result.rejected;
             break;
-        }
-    }
-    NotifyValuesChanged(std::move(changed), key);
-    return result;
-}
-
-StructuralModel::EditResult StructuralModel::ResetToDefault(const std::vector<ObjectId>& ids,
-                                                            const QString& key)
-{
-    EditResult result;
-    std::vector<ObjectId> changed;
-    for (ObjectId id : ids) {
-        StructuralObject* object = Find(id);
-        if (!object || !object->HasProperty(key))
-            continue;
-        const PropertyDefinition& definition = *object->Type().FindProperty(key);
-        if (definition.readOnly) {
-            ++result.rejected;
-            continue;
-        }
-        if (object->SetValue(key, definition.defaultValue) == StructuralObject::SetResult::Changed) {
-            ++result.changed;
-            changed.push_back(id);
-        } else {
-            ++result.unchanged;
         }
     }
     NotifyValuesChanged(std::move(changed), key);

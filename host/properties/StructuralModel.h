@@ -5,6 +5,7 @@
 #include "PropertyValue.h"
 #include "StructuralObject.h"
 
+#include <functional>
 #include <map>
 #include <memory>
 #include <vector>
@@ -69,6 +70,9 @@ public:
     int RunAction(const std::vector<ObjectId>& ids, const QString& actionKey);
 
 private:
+    using ValueFor = std::function<const PropertyValue&(const PropertyDefinition&)>;
+
+    EditResult Edit(const std::vector<ObjectId>& ids, const QString& key, const ValueFor& valueFor);
     StructuralObject* Find(ObjectId id);
     bool ResetAllToDefaults(StructuralObject& object);
     void NotifyValuesChanged(std::vector<ObjectId> ids, const QString& key);

@@ -1,3 +1,4 @@
+#include "PropertiesTestSupport.h"
 #include "properties/PropertiesModel.h"
 #include "properties/PropertiesProxyModel.h"
 #include "properties/PropertiesRoles.h"
@@ -16,21 +17,6 @@ using namespace Orvo::UI::UIComponents::PropertiesRoles;
 using namespace Orvo::Kernel::Framework;
 
 namespace {
-
-std::vector<ObjectId> ObjectsOfType(const StructuralModel& model, const QString& typeKey)
-{
-    std::vector<ObjectId> ids;
-    for (const StructuralObject* object : model.Objects()) {
-        if (object->Type().Key() == typeKey)
-            ids.push_back(object->Id());
-    }
-    return ids;
-}
-
-QString UuidOf(const QString& key)
-{
-    return PropertyDefinition(key, PropertyType::Bool, QString()).uuid;
-}
 
 // The rows as "C:<category id>", "S<level>:<name>" and property keys.
 QStringList Layout(const PropertiesModel& model)

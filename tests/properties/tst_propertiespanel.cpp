@@ -1,3 +1,4 @@
+#include "PropertiesTestSupport.h"
 #include "framework/ServiceCatalog.h"
 #include "kernel/Directories.h"
 #include "kernel/PathText.h"
@@ -22,11 +23,6 @@ namespace Directories = Orvo::Kernel::Directories;
 namespace {
 
 const QString c_geometry = QStringLiteral("UI_PROPERTIES_CATEGORY_GEOMETRY");
-
-QString UuidOf(const QString& key)
-{
-    return PropertyDefinition(key, PropertyType::Bool, QString()).uuid;
-}
 
 QStringList Categories(const QAbstractItemModel& model)
 {
@@ -73,7 +69,7 @@ private slots:
     void hostEventsAfterThePanelIsGoneAreHarmless();
 
 private:
-    std::vector<ObjectId> OfType(const QString& type) const;
+    std::vector<ObjectId> OfType(const QString& type) const { return ObjectsOfType(*m_structure, type); }
 
     QTemporaryDir m_directory;
     std::shared_ptr<StructuralModel> m_structure;
@@ -107,16 +103,6 @@ void tst_PropertiesPanel::cleanup()
     m_panel.reset();
     m_structure.reset();
     ServiceCatalog::SetGlobal(nullptr);
-}
-
-std::vector<ObjectId> tst_PropertiesPanel::OfType(const QString& type) const
-{
-    std::vector<ObjectId> ids;
-    for (const StructuralObject* object : m_structure->Objects()) {
-        if (object->Type().Key() == type)
-            ids.push_back(object->Id());
-    }
-    return ids;
 }
 
 void tst_PropertiesPanel::followsTheHostSelection()

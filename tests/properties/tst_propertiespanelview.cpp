@@ -1,3 +1,4 @@
+#include "PropertiesTestSupport.h"
 #include "framework/ServiceCatalog.h"
 #include "kernel/Directories.h"
 #include "kernel/PathText.h"
@@ -15,11 +16,6 @@ using namespace Orvo::Kernel::Framework;
 namespace Directories = Orvo::Kernel::Directories;
 
 namespace {
-
-QString UuidOf(const QString& key)
-{
-    return PropertyDefinition(key, PropertyType::Bool, QString()).uuid;
-}
 
 // Delegates live in the visual tree, not always among an item's QObject children.
 QQuickItem* FindItem(QQuickItem* root, const QString& objectName)
@@ -55,7 +51,7 @@ private slots:
     void foldedCategoriesSurviveReopening();
 
 private:
-    std::vector<ObjectId> OfType(const QString& type) const;
+    std::vector<ObjectId> OfType(const QString& type) const { return ObjectsOfType(*m_structure, type); }
     QQuickItem* Item(const QString& objectName) const { return FindItem(m_view->rootObject(), objectName); }
     int ListCount() const;
     void Click(QQuickItem* item);
@@ -109,16 +105,6 @@ void tst_PropertiesPanelView::cleanup()
     m_view.reset();
     m_structure.reset();
     ServiceCatalog::SetGlobal(nullptr);
-}
-
-std::vector<ObjectId> tst_PropertiesPanelView::OfType(const QString& type) const
-{
-    std::vector<ObjectId> ids;
-    for (const StructuralObject* object : m_structure->Objects()) {
-        if (object->Type().Key() == type)
-            ids.push_back(object->Id());
-    }
-    return ids;
 }
 
 int tst_PropertiesPanelView::ListCount() const
