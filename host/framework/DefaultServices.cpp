@@ -5,6 +5,10 @@
 #include "INeedServiceCatalog.h"
 #include "ServiceCatalog.h"
 #include "TranslationStringLoader.h"
+#include "commands/CommandRepository.h"
+#include "commands/INeedCommandRepository.h"
+#include "commands/INeedUICommandProcessor.h"
+#include "commands/UICommandProcessor.h"
 #include "kernel/Directories.h"
 #include "qtextensions/ComponentConfigurationStore.h"
 
@@ -33,6 +37,15 @@ std::shared_ptr<TranslationStringLoader> CreateStringLoader()
     return loader;
 }
 
+std::shared_ptr<CommandRepository> CreateCommandRepository(const std::shared_ptr<EventBus>& eventbus)
+{
+    auto repository = std::make_shared<CommandRepository>(eventbus);
+    const auto file = Directories::GetDirectory(Directories::DirectoryType::ApplicationDirectory)
+        / "Configuration" / "Commands.xml";
+    repository->LoadFile(file);
+    return repository;
+}
+
 } // namespace
 
 void DefaultServices::Install(ServiceCatalog& catalog)
@@ -42,6 +55,10 @@ void DefaultServices::Install(ServiceCatalog& catalog)
     catalog.Register<UI::QtExtensions::ComponentConfigurationStore>(
         std::make_shared<UI::QtExtensions::ComponentConfigurationStore>(
             Directories::GetDirectory(Directories::DirectoryType::UserConfigurationDirectory) / "components.json"));
+    auto commandRepository = CreateCommandRepository(catalog.Get<EventBus>());
+    catalog.Register<ICommandRepository>(commandRepository);
+    catalog.Register<IUICommandProcessor>(
+        std::make_shared<UICommandProcessor>(commandRepository, catalog.Get<EventBus>()));
 
     catalog.AddInjector([](IServiceClient& client, ServiceCatalog& services) {
         if (auto* needsBus = dynamic_cast<INeedEventbus*>(&client))
@@ -50,6 +67,14 @@ void DefaultServices::Install(ServiceCatalog& catalog)
     catalog.AddInjector([](IServiceClient& client, ServiceCatalog& services) {
         if (auto* needsCatalog = dynamic_cast<INeedServiceCatalog*>(&client))
             needsCatalog->SetServiceCatalog(services.shared_from_this());
+    });
+    catalog.AddInjector([](IServiceClient& client, ServiceCatalog& services) {
+        if (auto* needsRepository = dynamic_cast<INeedCommandRepository*>(&client))
+            needsRepository->SetCommandRepository(services.Get<ICommandRepository>());
+    });
+    catalog.AddInjector([](IServiceClient& client, ServiceCatalog& services) {
+        if (auto* needsProcessor = dynamic_cast<INeedUICommandProcessor*>(&client))
+            needsProcessor->SetUICommandProcessor(services.Get<IUICommandProcessor>());
     });
 }
 
