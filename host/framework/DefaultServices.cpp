@@ -3,6 +3,7 @@
 #include "EventBus.h"
 #include "INeedEventbus.h"
 #include "INeedServiceCatalog.h"
+#include "IdleEventSource.h"
 #include "ServiceCatalog.h"
 #include "TranslationStringLoader.h"
 #include "commands/CommandRepository.h"
@@ -54,7 +55,10 @@ void DefaultServices::Install(ServiceCatalog& catalog)
     catalog.Register<IStringLoader>(CreateStringLoader());
     catalog.Register<UI::QtExtensions::ComponentConfigurationStore>(
         std::make_shared<UI::QtExtensions::ComponentConfigurationStore>(
-            Directories::GetDirectory(Directories::DirectoryType::UserConfigurationDirectory) / "components.json"));
+            Directories::GetDirectory(Directories::DirectoryType::UserConfigurationDirectory) / "components.json",
+            Directories::GetDirectory(Directories::DirectoryType::ApplicationDirectory) / "Configuration"
+                / "DefaultUserConfiguration"));
+    catalog.Register<IdleEventSource>(std::make_shared<IdleEventSource>(catalog.Get<EventBus>()));
     auto commandRepository = CreateCommandRepository(catalog.Get<EventBus>());
     catalog.Register<ICommandRepository>(commandRepository);
     catalog.Register<IUICommandProcessor>(
