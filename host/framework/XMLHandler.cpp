@@ -52,12 +52,21 @@ XMLHandler::~XMLHandler() = default;
 pugi::xml_parse_result XMLHandler::LoadString(const std::wstring& text)
 {
     const std::string utf8 = ToUtf8(text);
-    return m_document.load_buffer(utf8.data(), utf8.size(), pugi::parse_default, pugi::encoding_utf8);
+    return KeepOnlyComplete(
+        m_document.load_buffer(utf8.data(), utf8.size(), pugi::parse_default, pugi::encoding_utf8));
 }
 
 pugi::xml_parse_result XMLHandler::LoadFile(const std::filesystem::path& path)
 {
-    return m_document.load_file(path.c_str());
+    return KeepOnlyComplete(m_document.load_file(path.c_str()));
+}
+
+pugi::xml_parse_result XMLHandler::KeepOnlyComplete(pugi::xml_parse_result result)
+{
+    // pugixml keeps what it read before an error; a truncated file must not pass for a whole one.
+    if (!result)
+        m_document.reset();
+    return result;
 }
 
 pugi::xml_node XMLHandler::RootNode() const

@@ -67,6 +67,8 @@ public:
     static constexpr const wchar_t* c_falseValue = L"false";
 
 private:
+    pugi::xml_parse_result KeepOnlyComplete(pugi::xml_parse_result result);
+
     pugi::xml_document m_document;
 };
 
