@@ -1,6 +1,8 @@
 #include "TypeRegistration.h"
 
 #include "StringsQtComponents.h"
+#include "markingmenu/MarkingMenuConfig.h"
+#include "markingmenu/MarkingMenuSectionConfig.h"
 #include "qtextensions/FramelessWindow.h"
 
 #include <QQmlEngine>
@@ -23,6 +25,8 @@ void RegisterQtComponentsTypes(const char* uri)
     constexpr int minor = 0;
 
     // The order below is the module's registration order; keep new rows in their place.
+    qmlRegisterType<MarkingMenuSectionConfig>(uri, major, minor, "MarkingMenuSectionConfig");
+    qmlRegisterType<MarkingMenuConfig>(uri, major, minor, "MarkingMenuConfig");
     qmlRegisterType<QtExtensions::FramelessWindow>(uri, major, minor, "FramelessWindow");
     qmlRegisterSingletonType<StringsQtComponents>(uri, major, minor, "Strings", CreateStrings);
 }

@@ -1,0 +1,5 @@
+target_sources(QtComponentsCore PRIVATE
+    ${CMAKE_CURRENT_LIST_DIR}/MarkingMenuConfig.h ${CMAKE_CURRENT_LIST_DIR}/MarkingMenuConfig.cpp
+    ${CMAKE_CURRENT_LIST_DIR}/MarkingMenuConfigXmlHandler.h ${CMAKE_CURRENT_LIST_DIR}/MarkingMenuConfigXmlHandler.cpp
+    ${CMAKE_CURRENT_LIST_DIR}/MarkingMenuSectionConfig.h ${CMAKE_CURRENT_LIST_DIR}/MarkingMenuSectionConfig.cpp
+)
