@@ -1,6 +1,7 @@
 #include "TypeRegistration.h"
 
 #include "StringsQtComponents.h"
+#include "commands/CommandMenuHelper.h"
 #include "markingmenu/MarkingMenuConfig.h"
 #include "markingmenu/MarkingMenuSectionConfig.h"
 #include "qtextensions/FramelessWindow.h"
@@ -25,6 +26,7 @@ void RegisterQtComponentsTypes(const char* uri)
     constexpr int minor = 0;
 
     // The order below is the module's registration order; keep new rows in their place.
+    qmlRegisterType<CommandMenuHelper>(uri, major, minor, "CommandMenuHelper");
     qmlRegisterType<MarkingMenuSectionConfig>(uri, major, minor, "MarkingMenuSectionConfig");
     qmlRegisterType<MarkingMenuConfig>(uri, major, minor, "MarkingMenuConfig");
     qmlRegisterType<QtExtensions::FramelessWindow>(uri, major, minor, "FramelessWindow");
