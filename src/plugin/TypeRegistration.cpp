@@ -2,6 +2,7 @@
 
 #include "StringsQtComponents.h"
 #include "commands/CommandMenuHelper.h"
+#include "markingmenu/MarkingMenu.h"
 #include "markingmenu/MarkingMenuConfig.h"
 #include "markingmenu/MarkingMenuSectionConfig.h"
 #include "qtextensions/FramelessWindow.h"
@@ -29,6 +30,7 @@ void RegisterQtComponentsTypes(const char* uri)
     qmlRegisterType<CommandMenuHelper>(uri, major, minor, "CommandMenuHelper");
     qmlRegisterType<MarkingMenuSectionConfig>(uri, major, minor, "MarkingMenuSectionConfig");
     qmlRegisterType<MarkingMenuConfig>(uri, major, minor, "MarkingMenuConfig");
+    qmlRegisterType<MarkingMenu>(uri, major, minor, "MarkingMenu_Cpp");
     qmlRegisterType<QtExtensions::FramelessWindow>(uri, major, minor, "FramelessWindow");
     qmlRegisterSingletonType<StringsQtComponents>(uri, major, minor, "Strings", CreateStrings);
 }
