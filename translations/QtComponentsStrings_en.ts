@@ -52,8 +52,12 @@
         <translation>Run from: %1</translation>
     </message>
     <message id="UI_APP_MARKING_MENU_LOCK_MODEL">
-        <source>Lock the model (disables the Model and Edit commands)</source>
-        <translation>Lock the model (disables the Model and Edit commands)</translation>
+        <source>Lock the model</source>
+        <translation>Lock the model</translation>
+    </message>
+    <message id="UI_APP_MARKING_MENU_LOCK_MODEL_HINT">
+        <source>Disables the Model and Edit commands</source>
+        <translation>Disables the Model and Edit commands: their slices grey out and do not run.</translation>
     </message>
     <message id="UI_APP_MARKING_MENU_HOLDING">
         <source>Secondary button held</source>
