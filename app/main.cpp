@@ -4,6 +4,7 @@
 #include "ScreenshotTaker.h"
 
 #include "framework/HostApplication.h"
+#include "kernel/PathText.h"
 
 #include <QDir>
 #include <QGuiApplication>
@@ -46,18 +47,20 @@ int main(int argc, char** argv)
         return 2;
     }
 
-    Orvo::Kernel::Framework::HostApplication::Start(QGuiApplication::applicationDirPath().toStdWString());
+    Orvo::Kernel::Framework::HostApplication::Start(
+        Orvo::Kernel::Directories::ToPath(QGuiApplication::applicationDirPath()));
 
     // Declared before the engine, which must be gone before the objects its bindings read.
     CommandActivity commandActivity;
     QQmlApplicationEngine engine;
     // The build lays the QML import directory out beside bin/.
-    engine.addImportPath(QDir(QGuiApplication::applicationDirPath()).absoluteFilePath(QStringLiteral("../qml")));
+    engine.addImportPath(
+        QDir(QGuiApplication::applicationDirPath()).absoluteFilePath(QStringLiteral("../qml")));
     engine.rootContext()->setContextProperty(QStringLiteral("initialPage"), options.page);
     engine.rootContext()->setContextProperty(QStringLiteral("commandActivity"), &commandActivity);
     QObject::connect(
-        &engine, &QQmlApplicationEngine::objectCreationFailed, &application, []() { QCoreApplication::exit(1); },
-        Qt::QueuedConnection);
+        &engine, &QQmlApplicationEngine::objectCreationFailed, &application,
+        []() { QCoreApplication::exit(1); }, Qt::QueuedConnection);
     engine.load(QUrl(QStringLiteral("qrc:/demo/qml/Main.qml")));
     if (engine.rootObjects().isEmpty())
         return 1;
@@ -69,7 +72,8 @@ int main(int argc, char** argv)
     if (options.holdMarkingMenu)
         (new MarkingMenuGesture(window, &application))->Start();
     if (!options.screenshotFile.isEmpty()) {
-        auto* taker = new ScreenshotTaker(window, options.screenshotFile, options.screenshotDelayMs, &application);
+        auto* taker
+            = new ScreenshotTaker(window, options.screenshotFile, options.screenshotDelayMs, &application);
         taker->Start();
     }
     return QGuiApplication::exec();

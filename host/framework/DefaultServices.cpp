@@ -6,6 +6,7 @@
 #include "IdleEventSource.h"
 #include "ServiceCatalog.h"
 #include "TranslationStringLoader.h"
+#include "basiccomponents/NumberFormatSettings.h"
 #include "commands/CommandRepository.h"
 #include "commands/INeedCommandRepository.h"
 #include "commands/INeedUICommandProcessor.h"
@@ -31,7 +32,8 @@ std::shared_ptr<TranslationStringLoader> CreateStringLoader()
     initHostKitResources();
     auto loader = std::make_shared<TranslationStringLoader>();
     // English is the catalogue every identifier has; a translated catalogue replaces it when present.
-    loader->LoadTable(DefaultServices::c_componentsStringTable, QStringLiteral(":/i18n"), QStringLiteral("en"));
+    loader->LoadTable(DefaultServices::c_componentsStringTable, QStringLiteral(":/i18n"),
+                      QStringLiteral("en"));
     const QString language = QLocale().name().section(QLatin1Char('_'), 0, 0);
     if (language != QLatin1String("en") && language != QLatin1String("C"))
         loader->LoadTable(DefaultServices::c_componentsStringTable, QStringLiteral(":/i18n"), language);
@@ -53,6 +55,8 @@ void DefaultServices::Install(ServiceCatalog& catalog)
 {
     catalog.Register<EventBus>(std::make_shared<EventBus>());
     catalog.Register<IStringLoader>(CreateStringLoader());
+    catalog.Register<UI::BasicComponents::NumberFormatSettings>(
+        std::make_shared<UI::BasicComponents::NumberFormatSettings>());
     catalog.Register<UI::QtExtensions::ComponentConfigurationStore>(
         std::make_shared<UI::QtExtensions::ComponentConfigurationStore>(
             Directories::GetDirectory(Directories::DirectoryType::UserConfigurationDirectory) / "components.json",
