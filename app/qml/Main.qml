@@ -18,6 +18,7 @@ ApplicationWindow {
     readonly property var pages: [
         { name: "overview", lcid: "UI_APP_PAGE_OVERVIEW", source: "OverviewPage.qml" },
         { name: "valueentry", lcid: "UI_APP_PAGE_VALUE_ENTRY", source: "ValueEntryPage.qml" },
+        { name: "markingmenu", lcid: "UI_APP_PAGE_MARKING_MENU", source: "MarkingMenuPage.qml" },
         { name: "properties", lcid: "UI_APP_PAGE_PROPERTIES", source: "PropertiesPage.qml" }
     ]
 

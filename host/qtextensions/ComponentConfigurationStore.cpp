@@ -9,18 +9,42 @@
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QSaveFile>
+#include <algorithm>
 
 namespace Orvo::UI::QtExtensions {
 
-ComponentConfigurationStore::ComponentConfigurationStore(std::filesystem::path file)
+ComponentConfigurationStore::ComponentConfigurationStore(std::filesystem::path file,
+                                                         std::filesystem::path defaultsDirectory)
     : m_file(std::move(file))
+    , m_defaultsDirectory(std::move(defaultsDirectory))
 {
     ReadFile();
 }
 
 QString ComponentConfigurationStore::Load(const QString& key) const
 {
-    return m_configurations.value(key);
+    auto it = m_configurations.constFind(key);
+    return it != m_configurations.constEnd() ? *it : LoadDefault(key);
+}
+
+QString ComponentConfigurationStore::LoadDefault(const QString& key) const
+{
+    if (m_defaultsDirectory.empty() || key.isEmpty())
+        return {};
+    const QDir directory(QString::fromStdWString(m_defaultsDirectory.wstring()));
+    // Compared by name rather than through a name filter, so a key is never read as a wildcard.
+    const QFileInfoList files = directory.entryInfoList(QDir::Files, QDir::Name);
+    const auto match = std::find_if(files.begin(), files.end(),
+                                    [&key](const QFileInfo& info) { return info.completeBaseName() == key; });
+    if (match == files.end())
+        return {};
+    QFile file(match->absoluteFilePath());
+    if (!file.open(QIODevice::ReadOnly)) {
+        Kernel::Framework::DebugOutput(
+            QStringLiteral("Cannot read the default configuration %1").arg(file.fileName()));
+        return {};
+    }
+    return QString::fromUtf8(file.readAll());
 }
 
 void ComponentConfigurationStore::Store(const QString& key, const QString& configuration)

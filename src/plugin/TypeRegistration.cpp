@@ -1,6 +1,10 @@
 #include "TypeRegistration.h"
 
 #include "StringsQtComponents.h"
+#include "commands/CommandMenuHelper.h"
+#include "markingmenu/MarkingMenu.h"
+#include "markingmenu/MarkingMenuConfig.h"
+#include "markingmenu/MarkingMenuSectionConfig.h"
 #include "properties/ActionsModel.h"
 #include "properties/EntityModel.h"
 #include "properties/IllustrationData.h"
@@ -39,10 +43,14 @@ void RegisterQtComponentsTypes(const char* uri)
     qmlRegisterType<PropertiesModel>(uri, major, minor, "PropertiesModel");
     qmlRegisterType<PropertiesPanel>(uri, major, minor, "PropertiesPanel_Cpp");
     qmlRegisterType<PropertiesProxyModel>(uri, major, minor, "PropertiesProxyModel");
+    qmlRegisterType<CommandMenuHelper>(uri, major, minor, "CommandMenuHelper");
     qmlRegisterType<IntegerValidator>(uri, major, minor, "IntegerValidator");
     qmlRegisterType<RealValidator>(uri, major, minor, "RealValidator");
     qmlRegisterType<InlineCalculator>(uri, major, minor, "InlineCalculator");
     qmlRegisterType<IllustrationData>(uri, major, minor, "IllustrationData");
+    qmlRegisterType<MarkingMenuSectionConfig>(uri, major, minor, "MarkingMenuSectionConfig");
+    qmlRegisterType<MarkingMenuConfig>(uri, major, minor, "MarkingMenuConfig");
+    qmlRegisterType<MarkingMenu>(uri, major, minor, "MarkingMenu_Cpp");
     qmlRegisterType<QtExtensions::FramelessWindow>(uri, major, minor, "FramelessWindow");
     qmlRegisterSingletonType<StringsQtComponents>(uri, major, minor, "Strings", CreateStrings);
 }
