@@ -384,8 +384,8 @@
         <translation>Numeric inputs</translation>
     </message>
     <message id="UI_VALUE_ENTRY_HINT">
-        <source>Type a number, or start with "=" to type an expression: =2*500mm, =sin(30deg), =max(1,5; 2). Units are converted to SI base units.</source>
-        <translation>Type a number, or start with "=" to type an expression: =2*500mm, =sin(30deg), =max(1,5; 2). Units are converted to SI base units.</translation>
+        <source>Type a number, or start with "=" to type an expression: =2*500mm, =sin(30deg), =max(1,5; 2). An expression with units is converted to the unit of its field: =30cm in a field in m gives 0.3, =45deg in a field in degrees gives 45.</source>
+        <translation>Type a number, or start with "=" to type an expression: =2*500mm, =sin(30deg), =max(1,5; 2). An expression with units is converted to the unit of its field: =30cm in a field in m gives 0.3, =45deg in a field in degrees gives 45.</translation>
     </message>
     <message id="UI_VALUE_ENTRY_LENGTH">
         <source>Span length</source>
