@@ -1,13 +1,21 @@
+#include "CommandActivity.h"
 #include "DemoOptions.h"
+#include "MarkingMenuGesture.h"
+#include "SampleObjectsModel.h"
 #include "ScreenshotTaker.h"
 #include "StructuralMembersFeeder.h"
 
 #include "framework/HostApplication.h"
+#include "framework/ServiceCatalog.h"
+#include "kernel/PathText.h"
+#include "properties/SampleStructure.h"
+#include "properties/StructuralModel.h"
 
 #include <QDir>
 #include <QGuiApplication>
 #include <QQmlApplicationEngine>
 #include <QQmlContext>
+#include <QQmlEngine>
 #include <QQuickStyle>
 #include <QQuickWindow>
 #include <cstdio>
@@ -40,14 +48,20 @@ int main(int argc, char** argv)
 
     const DemoOptions options = DemoOptions::Parse(QGuiApplication::arguments());
     if (!options.valid) {
-        std::fprintf(stderr, "%s\nUsage: QtComponentsDemo [--page NAME] [--screenshot FILE [--delay MS]]\n",
+        std::fprintf(stderr, "%s\nUsage: QtComponentsDemo [--page NAME] [--hold-marking-menu] [--screenshot FILE [--delay MS]]\n",
                      qPrintable(options.error));
         return 2;
     }
 
-    Orvo::Kernel::Framework::HostApplication::Start(QGuiApplication::applicationDirPath().toStdWString());
+    auto services = Orvo::Kernel::Framework::HostApplication::Start(
+        Orvo::Kernel::Directories::ToPath(QGuiApplication::applicationDirPath()));
+    // The demo's model: a small frame whose objects the pages select and edit.
+    Orvo::Kernel::Framework::SampleStructure::Fill(
+        *services->Get<Orvo::Kernel::Framework::StructuralModel>());
+    qmlRegisterType<SampleObjectsModel>("Demo", 1, 0, "SampleObjectsModel");
 
-    // The table controller outlives the engine: QML must never see its model go away.
+    // Declared before the engine, which must be gone before the objects its bindings read.
+    CommandActivity commandActivity;
     StructuralMembersFeeder membersFeeder;
     membersFeeder.Start();
     QQmlApplicationEngine engine;
@@ -56,6 +70,7 @@ int main(int argc, char** argv)
         QDir(QGuiApplication::applicationDirPath()).absoluteFilePath(QStringLiteral("../qml")));
     engine.rootContext()->setContextProperty(QStringLiteral("initialPage"), options.page);
     engine.rootContext()->setContextProperty(QStringLiteral("membersTable"), membersFeeder.GetModel());
+    engine.rootContext()->setContextProperty(QStringLiteral("commandActivity"), &commandActivity);
     QObject::connect(
         &engine, &QQmlApplicationEngine::objectCreationFailed, &application,
         []() { QCoreApplication::exit(1); }, Qt::QueuedConnection);
@@ -67,6 +82,8 @@ int main(int argc, char** argv)
     if (!window)
         return 1;
 
+    if (options.holdMarkingMenu)
+        (new MarkingMenuGesture(window, &application))->Start();
     if (!options.screenshotFile.isEmpty()) {
         auto* taker
             = new ScreenshotTaker(window, options.screenshotFile, options.screenshotDelayMs, &application);

@@ -17,6 +17,9 @@ ApplicationWindow {
     // One entry per demo page; each page shows one area of the component library at work.
     readonly property var pages: [
         { name: "overview", lcid: "UI_APP_PAGE_OVERVIEW", source: "OverviewPage.qml" },
+        { name: "valueentry", lcid: "UI_APP_PAGE_VALUE_ENTRY", source: "ValueEntryPage.qml" },
+        { name: "markingmenu", lcid: "UI_APP_PAGE_MARKING_MENU", source: "MarkingMenuPage.qml" },
+        { name: "properties", lcid: "UI_APP_PAGE_PROPERTIES", source: "PropertiesPage.qml" },
         { name: "tables", lcid: "UI_APP_PAGE_TABLES", source: "TablesPage.qml" }
     ]
 

@@ -26,42 +26,39 @@ bool IsBlank(wchar_t character)
     return character == L' ' || character == L'\t' || character == L'\u00A0';
 }
 
-// Reads the number at the start of text: digits with an optional "." or "," decimal mark and an
-// optional exponent. Returns how many characters it took, 0 when there is no number or when the
-// number is out of the range of double.
-std::size_t ReadNumber(const char* text, std::size_t length, double& value)
+// Reads the number at the start of the zero-terminated text: digits with an optional "." or ","
+// decimal mark and an optional exponent. Returns how many characters it took, 0 when there is no
+// number or when the number is out of the range of double.
+std::size_t ReadNumber(const char* text, double& value)
 {
     std::size_t end = 0;
     bool hasDigits = false;
-    std::size_t decimalMark = length;
-    while (end < length && IsDigit(text[end])) {
-        ++end;
+    const char* decimalComma = nullptr;
+    for (; IsDigit(text[end]); ++end)
         hasDigits = true;
-    }
-    if (end < length && (text[end] == '.' || text[end] == ',')) {
-        decimalMark = end++;
-        while (end < length && IsDigit(text[end])) {
-            ++end;
+    if (text[end] == '.' || text[end] == ',') {
+        if (text[end] == ',')
+            decimalComma = text + end;
+        for (++end; IsDigit(text[end]); ++end)
             hasDigits = true;
-        }
     }
     if (!hasDigits)
         return 0;
-    if (end < length && (text[end] == 'e' || text[end] == 'E')) {
+    if (text[end] == 'e' || text[end] == 'E') {
         std::size_t exponent = end + 1;
-        if (exponent < length && (text[exponent] == '+' || text[exponent] == '-'))
+        if (text[exponent] == '+' || text[exponent] == '-')
             ++exponent;
-        if (exponent < length && IsDigit(text[exponent])) {
-            while (exponent < length && IsDigit(text[exponent]))
+        if (IsDigit(text[exponent])) {
+            while (IsDigit(text[exponent]))
                 ++exponent;
             end = exponent;
         }
     }
 
     std::from_chars_result parsed;
-    if (decimalMark < length && text[decimalMark] == ',') {
+    if (decimalComma) {
         std::string withPoint(text, end);
-        withPoint[decimalMark] = '.';
+        withPoint[static_cast<std::size_t>(decimalComma - text)] = '.';
         parsed = std::from_chars(withPoint.data(), withPoint.data() + end, value);
     } else {
         parsed = std::from_chars(text, text + end, value);
@@ -103,6 +100,37 @@ double Maximum(const double* arguments, int count)
     return *std::max_element(arguments, arguments + count);
 }
 
+double Negate(double value)
+{
+    return -value;
+}
+
+double Unchanged(double value)
+{
+    return value;
+}
+
+using UnaryFunction = double (*)(double);
+
+const std::pair<const char*, UnaryFunction> c_functions[] = {
+    { "sin", [](double v) { return std::sin(v); } },     { "cos", [](double v) { return std::cos(v); } },
+    { "tan", [](double v) { return std::tan(v); } },     { "asin", [](double v) { return std::asin(v); } },
+    { "acos", [](double v) { return std::acos(v); } },   { "atan", [](double v) { return std::atan(v); } },
+    { "sqrt", [](double v) { return std::sqrt(v); } },   { "abs", [](double v) { return std::fabs(v); } },
+    { "exp", [](double v) { return std::exp(v); } },     { "ln", [](double v) { return std::log(v); } },
+    { "log", [](double v) { return std::log10(v); } },   { "round", [](double v) { return std::round(v); } },
+    { "floor", [](double v) { return std::floor(v); } }, { "ceil", [](double v) { return std::ceil(v); } },
+};
+
+// Each unit scales the value before it to the SI base unit of its quantity.
+const std::pair<const char*, UnaryFunction> c_units[] = {
+    { "mm", &ScaleByPowerOfTen<-3> }, { "cm", &ScaleByPowerOfTen<-2> }, { "dm", &ScaleByPowerOfTen<-1> },
+    { "m", &ScaleByPowerOfTen<0> },   { "km", &ScaleByPowerOfTen<3> },  { "N", &ScaleByPowerOfTen<0> },
+    { "kN", &ScaleByPowerOfTen<3> },  { "MN", &ScaleByPowerOfTen<6> },  { "Pa", &ScaleByPowerOfTen<0> },
+    { "kPa", &ScaleByPowerOfTen<3> }, { "MPa", &ScaleByPowerOfTen<6> }, { "GPa", &ScaleByPowerOfTen<9> },
+    { "deg", &DegreesToRadians },     { "rad", &ScaleByPowerOfTen<0> },
+};
+
 // muparser configured with exactly the calculator's grammar: no variables, no comparison or
 // logical operators (CharactersOfGrammar keeps them out), ";" between function arguments so that
 // "," can be a decimal mark, and the units as postfix operators so that they apply to a
@@ -129,34 +157,8 @@ public:
 
     void InitFun() override
     {
-        DefineFun(
-            "sin", +[](double v) { return std::sin(v); });
-        DefineFun(
-            "cos", +[](double v) { return std::cos(v); });
-        DefineFun(
-            "tan", +[](double v) { return std::tan(v); });
-        DefineFun(
-            "asin", +[](double v) { return std::asin(v); });
-        DefineFun(
-            "acos", +[](double v) { return std::acos(v); });
-        DefineFun(
-            "atan", +[](double v) { return std::atan(v); });
-        DefineFun(
-            "sqrt", +[](double v) { return std::sqrt(v); });
-        DefineFun(
-            "abs", +[](double v) { return std::fabs(v); });
-        DefineFun(
-            "exp", +[](double v) { return std::exp(v); });
-        DefineFun(
-            "ln", +[](double v) { return std::log(v); });
-        DefineFun(
-            "log", +[](double v) { return std::log10(v); });
-        DefineFun(
-            "round", +[](double v) { return std::round(v); });
-        DefineFun(
-            "floor", +[](double v) { return std::floor(v); });
-        DefineFun(
-            "ceil", +[](double v) { return std::ceil(v); });
+        for (const auto& [name, function] : c_functions)
+            DefineFun(name, function);
         DefineFun("min", &Minimum);
         DefineFun("max", &Maximum);
     }
@@ -169,32 +171,16 @@ public:
 
     void InitOprt() override
     {
-        DefineInfixOprt(
-            "-", +[](double v) { return -v; });
-        DefineInfixOprt(
-            "+", +[](double v) { return v; });
-
-        DefinePostfixOprt("mm", &ScaleByPowerOfTen<-3>);
-        DefinePostfixOprt("cm", &ScaleByPowerOfTen<-2>);
-        DefinePostfixOprt("dm", &ScaleByPowerOfTen<-1>);
-        DefinePostfixOprt("m", &ScaleByPowerOfTen<0>);
-        DefinePostfixOprt("km", &ScaleByPowerOfTen<3>);
-        DefinePostfixOprt("N", &ScaleByPowerOfTen<0>);
-        DefinePostfixOprt("kN", &ScaleByPowerOfTen<3>);
-        DefinePostfixOprt("MN", &ScaleByPowerOfTen<6>);
-        DefinePostfixOprt("Pa", &ScaleByPowerOfTen<0>);
-        DefinePostfixOprt("kPa", &ScaleByPowerOfTen<3>);
-        DefinePostfixOprt("MPa", &ScaleByPowerOfTen<6>);
-        DefinePostfixOprt("GPa", &ScaleByPowerOfTen<9>);
-        DefinePostfixOprt("deg", &DegreesToRadians);
-        DefinePostfixOprt("rad", &ScaleByPowerOfTen<0>);
+        DefineInfixOprt("-", &Negate);
+        DefineInfixOprt("+", &Unchanged);
+        for (const auto& [name, scale] : c_units)
+            DefinePostfixOprt(name, scale);
     }
 
 private:
     static int RecogniseNumber(const char* text, int* position, double* value)
     {
-        const std::size_t length = std::char_traits<char>::length(text);
-        const std::size_t taken = ReadNumber(text, length, *value);
+        const std::size_t taken = ReadNumber(text, *value);
         if (taken == 0)
             return 0;
         *position += static_cast<int>(taken);
@@ -255,7 +241,7 @@ bool EvaluatePlainNumber(const std::wstring& expression, double& value)
 
     char buffer[64];
     const std::size_t length = end - begin;
-    if (length == 0 || length > sizeof buffer)
+    if (length == 0 || length >= sizeof buffer)
         return false;
     for (std::size_t i = 0; i < length; ++i) {
         const wchar_t character = expression[begin + i];
@@ -263,8 +249,9 @@ bool EvaluatePlainNumber(const std::wstring& expression, double& value)
             return false;
         buffer[i] = static_cast<char>(character);
     }
+    buffer[length] = '\0';
     double number = 0.0;
-    if (ReadNumber(buffer, length, number) != length)
+    if (ReadNumber(buffer, number) != length)
         return false;
     value = negative ? -number : number;
     return true;

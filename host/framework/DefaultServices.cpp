@@ -3,10 +3,17 @@
 #include "EventBus.h"
 #include "INeedEventbus.h"
 #include "INeedServiceCatalog.h"
+#include "IdleEventSource.h"
 #include "ServiceCatalog.h"
 #include "TranslationStringLoader.h"
 #include "basiccomponents/NumberFormatSettings.h"
+#include "commands/CommandRepository.h"
+#include "commands/INeedCommandRepository.h"
+#include "commands/INeedUICommandProcessor.h"
+#include "commands/UICommandProcessor.h"
 #include "kernel/Directories.h"
+#include "properties/StructuralModel.h"
+#include "properties/StructuralObjectTypes.h"
 #include "qtextensions/ComponentConfigurationStore.h"
 
 #include <QLocale>
@@ -27,24 +34,46 @@ std::shared_ptr<TranslationStringLoader> CreateStringLoader()
     initHostKitResources();
     auto loader = std::make_shared<TranslationStringLoader>();
     // English is the catalogue every identifier has; a translated catalogue replaces it when present.
-    loader->LoadTable(DefaultServices::c_componentsStringTable, QStringLiteral(":/i18n"), QStringLiteral("en"));
+    loader->LoadTable(DefaultServices::c_componentsStringTable, QStringLiteral(":/i18n"),
+                      QStringLiteral("en"));
     const QString language = QLocale().name().section(QLatin1Char('_'), 0, 0);
     if (language != QLatin1String("en") && language != QLatin1String("C"))
         loader->LoadTable(DefaultServices::c_componentsStringTable, QStringLiteral(":/i18n"), language);
     return loader;
 }
 
+std::shared_ptr<CommandRepository> CreateCommandRepository(const std::shared_ptr<EventBus>& eventbus)
+{
+    auto repository = std::make_shared<CommandRepository>(eventbus);
+    const auto file = Directories::GetDirectory(Directories::DirectoryType::ApplicationDirectory)
+        / "Configuration" / "Commands.xml";
+    repository->LoadFile(file);
+    return repository;
+}
+
 } // namespace
 
 void DefaultServices::Install(ServiceCatalog& catalog)
 {
-    catalog.Register<EventBus>(std::make_shared<EventBus>());
+    auto eventBus = std::make_shared<EventBus>();
+    catalog.Register<EventBus>(eventBus);
     catalog.Register<IStringLoader>(CreateStringLoader());
     catalog.Register<UI::BasicComponents::NumberFormatSettings>(
         std::make_shared<UI::BasicComponents::NumberFormatSettings>());
     catalog.Register<UI::QtExtensions::ComponentConfigurationStore>(
         std::make_shared<UI::QtExtensions::ComponentConfigurationStore>(
-            Directories::GetDirectory(Directories::DirectoryType::UserConfigurationDirectory) / "components.json"));
+            Directories::GetDirectory(Directories::DirectoryType::UserConfigurationDirectory) / "components.json",
+            Directories::GetDirectory(Directories::DirectoryType::ApplicationDirectory) / "Configuration"
+                / "DefaultUserConfiguration"));
+    // The structural model starts empty; a host loads its objects into it.
+    auto structuralModel = std::make_shared<StructuralModel>(eventBus);
+    StructuralObjectTypes::RegisterAll(*structuralModel);
+    catalog.Register<StructuralModel>(structuralModel);
+    catalog.Register<IdleEventSource>(std::make_shared<IdleEventSource>(catalog.Get<EventBus>()));
+    auto commandRepository = CreateCommandRepository(catalog.Get<EventBus>());
+    catalog.Register<ICommandRepository>(commandRepository);
+    catalog.Register<IUICommandProcessor>(
+        std::make_shared<UICommandProcessor>(commandRepository, catalog.Get<EventBus>()));
 
     catalog.AddInjector([](IServiceClient& client, ServiceCatalog& services) {
         if (auto* needsBus = dynamic_cast<INeedEventbus*>(&client))
@@ -53,6 +82,14 @@ void DefaultServices::Install(ServiceCatalog& catalog)
     catalog.AddInjector([](IServiceClient& client, ServiceCatalog& services) {
         if (auto* needsCatalog = dynamic_cast<INeedServiceCatalog*>(&client))
             needsCatalog->SetServiceCatalog(services.shared_from_this());
+    });
+    catalog.AddInjector([](IServiceClient& client, ServiceCatalog& services) {
+        if (auto* needsRepository = dynamic_cast<INeedCommandRepository*>(&client))
+            needsRepository->SetCommandRepository(services.Get<ICommandRepository>());
+    });
+    catalog.AddInjector([](IServiceClient& client, ServiceCatalog& services) {
+        if (auto* needsProcessor = dynamic_cast<INeedUICommandProcessor*>(&client))
+            needsProcessor->SetUICommandProcessor(services.Get<IUICommandProcessor>());
     });
 }
 

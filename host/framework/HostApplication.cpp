@@ -2,6 +2,7 @@
 
 #include "ServiceCatalog.h"
 #include "kernel/Directories.h"
+#include "qtextensions/HostQmlTypes.h"
 
 namespace Orvo::Kernel::Framework {
 
@@ -10,6 +11,7 @@ std::shared_ptr<ServiceCatalog> HostApplication::Start(const std::filesystem::pa
     Directories::SetDirectory(Directories::DirectoryType::ApplicationDirectory, applicationDirectory);
     auto catalog = ServiceCatalog::CreateWithDefaults();
     ServiceCatalog::SetGlobal(catalog);
+    UI::QtExtensions::RegisterHostQmlTypes();
     return catalog;
 }
 

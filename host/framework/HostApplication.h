@@ -10,7 +10,8 @@ namespace Orvo::Kernel::Framework {
 class ServiceCatalog;
 
 // What a host does once at start-up: fix its directories, then build the service catalog
-// that every component will find through ServiceCatalog::Global().
+// that every component will find through ServiceCatalog::Global(), and register the host's
+// QML types.
 class HOSTKIT_EXPORT HostApplication
 {
 public:

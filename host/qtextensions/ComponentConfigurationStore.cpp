@@ -1,6 +1,7 @@
 #include "ComponentConfigurationStore.h"
 
 #include "framework/Debug.h"
+#include "kernel/PathText.h"
 
 #include <QDir>
 #include <QFile>
@@ -8,18 +9,42 @@
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QSaveFile>
+#include <algorithm>
 
 namespace Orvo::UI::QtExtensions {
 
-ComponentConfigurationStore::ComponentConfigurationStore(std::filesystem::path file)
+ComponentConfigurationStore::ComponentConfigurationStore(std::filesystem::path file,
+                                                         std::filesystem::path defaultsDirectory)
     : m_file(std::move(file))
+    , m_defaultsDirectory(std::move(defaultsDirectory))
 {
     ReadFile();
 }
 
 QString ComponentConfigurationStore::Load(const QString& key) const
 {
-    return m_configurations.value(key);
+    auto it = m_configurations.constFind(key);
+    return it != m_configurations.constEnd() ? *it : LoadDefault(key);
+}
+
+QString ComponentConfigurationStore::LoadDefault(const QString& key) const
+{
+    if (m_defaultsDirectory.empty() || key.isEmpty())
+        return {};
+    const QDir directory(QString::fromStdWString(m_defaultsDirectory.wstring()));
+    // Compared by name rather than through a name filter, so a key is never read as a wildcard.
+    const QFileInfoList files = directory.entryInfoList(QDir::Files, QDir::Name);
+    const auto match = std::find_if(files.begin(), files.end(),
+                                    [&key](const QFileInfo& info) { return info.completeBaseName() == key; });
+    if (match == files.end())
+        return {};
+    QFile file(match->absoluteFilePath());
+    if (!file.open(QIODevice::ReadOnly)) {
+        Kernel::Framework::DebugOutput(
+            QStringLiteral("Cannot read the default configuration %1").arg(file.fileName()));
+        return {};
+    }
+    return QString::fromUtf8(file.readAll());
 }
 
 void ComponentConfigurationStore::Store(const QString& key, const QString& configuration)
@@ -32,7 +57,7 @@ void ComponentConfigurationStore::Store(const QString& key, const QString& confi
 
 void ComponentConfigurationStore::ReadFile()
 {
-    QFile file(QString::fromStdWString(m_file.wstring()));
+    QFile file(Kernel::Directories::ToQString(m_file));
     if (!file.exists())
         return;
     if (!file.open(QIODevice::ReadOnly)) {
@@ -44,8 +69,8 @@ void ComponentConfigurationStore::ReadFile()
     if (error.error != QJsonParseError::NoError || !document.isObject()) {
         // A damaged file must not cost the user the panels: start from defaults, keep the file
         // aside so nothing is lost.
-        Kernel::Framework::DebugOutput(
-            QStringLiteral("Ignoring damaged component configuration %1: %2").arg(file.fileName(), error.errorString()));
+        Kernel::Framework::DebugOutput(QStringLiteral("Ignoring damaged component configuration %1: %2")
+                                           .arg(file.fileName(), error.errorString()));
         QFile::remove(file.fileName() + QStringLiteral(".damaged"));
         file.close();
         QFile::copy(file.fileName(), file.fileName() + QStringLiteral(".damaged"));
@@ -58,7 +83,7 @@ void ComponentConfigurationStore::ReadFile()
 
 void ComponentConfigurationStore::WriteFile() const
 {
-    const QString path = QString::fromStdWString(m_file.wstring());
+    const QString path = Kernel::Directories::ToQString(m_file);
     QDir().mkpath(QFileInfo(path).absolutePath());
     QJsonObject object;
     for (auto it = m_configurations.begin(); it != m_configurations.end(); ++it)

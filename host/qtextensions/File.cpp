@@ -1,6 +1,7 @@
 #include "File.h"
 
 #include "kernel/Directories.h"
+#include "kernel/PathText.h"
 
 #include <QDir>
 #include <QUrl>
@@ -9,8 +10,18 @@ namespace Orvo::UI::QtExtensions::File {
 
 QString createQmlFilePath(const std::filesystem::path& path)
 {
-    const QString local = QDir::cleanPath(QString::fromStdWString(path.wstring()));
+    const QString local = QDir::cleanPath(Kernel::Directories::ToQString(path));
     return QUrl::fromLocalFile(local).toString();
+}
+
+QString createQmlFilePathFromApplicationPath(const std::filesystem::path& path)
+{
+    if (path.empty())
+        return {};
+    if (path.is_absolute())
+        return createQmlFilePath(path);
+    return createQmlFilePath(
+        Kernel::Directories::GetDirectory(Kernel::Directories::DirectoryType::ApplicationDirectory) / path);
 }
 
 std::wstring getRelativePathFromQmlPath(const QString& qmlPath)
@@ -19,8 +30,8 @@ std::wstring getRelativePathFromQmlPath(const QString& qmlPath)
     if (!url.isLocalFile())
         return qmlPath.toStdWString();
     const QString local = QDir::cleanPath(url.toLocalFile());
-    const QDir applicationDirectory(QString::fromStdWString(
-        Kernel::Directories::GetDirectory(Kernel::Directories::DirectoryType::ApplicationDirectory).wstring()));
+    const QDir applicationDirectory(Kernel::Directories::ToQString(
+        Kernel::Directories::GetDirectory(Kernel::Directories::DirectoryType::ApplicationDirectory)));
     const QString relative = applicationDirectory.relativeFilePath(local);
     if (relative.startsWith(QLatin1String("../")) || relative == QLatin1String(".."))
         return local.toStdWString();

@@ -1,6 +1,17 @@
 #include "TypeRegistration.h"
 
 #include "StringsQtComponents.h"
+#include "commands/CommandMenuHelper.h"
+#include "markingmenu/MarkingMenu.h"
+#include "markingmenu/MarkingMenuConfig.h"
+#include "markingmenu/MarkingMenuSectionConfig.h"
+#include "properties/ActionsModel.h"
+#include "properties/EntityModel.h"
+#include "properties/IllustrationData.h"
+#include "properties/PropertiesModel.h"
+#include "properties/PropertiesPanel.h"
+#include "properties/PropertiesPanelUserConfiguration.h"
+#include "properties/PropertiesProxyModel.h"
 #include "qtextensions/FramelessWindow.h"
 #include "tables/FilterBarModel.h"
 #include "tables/MultiEditAction.h"
@@ -35,9 +46,17 @@ void RegisterQtComponentsTypes(const char* uri)
     constexpr int minor = 0;
 
     // The order below is the module's registration order; keep new rows in their place.
+    qmlRegisterType<PropertiesPanelUserConfiguration>(uri, major, minor, "PropertiesPanelUserConfiguration");
+    qmlRegisterType<ActionsModel>(uri, major, minor, "ActionsModel");
+    qmlRegisterType<EntityModel>(uri, major, minor, "EntityModel");
+    qmlRegisterType<PropertiesModel>(uri, major, minor, "PropertiesModel");
+    qmlRegisterType<PropertiesPanel>(uri, major, minor, "PropertiesPanel_Cpp");
+    qmlRegisterType<PropertiesProxyModel>(uri, major, minor, "PropertiesProxyModel");
+    qmlRegisterType<CommandMenuHelper>(uri, major, minor, "CommandMenuHelper");
     qmlRegisterType<IntegerValidator>(uri, major, minor, "IntegerValidator");
     qmlRegisterType<RealValidator>(uri, major, minor, "RealValidator");
     qmlRegisterType<InlineCalculator>(uri, major, minor, "InlineCalculator");
+    qmlRegisterType<IllustrationData>(uri, major, minor, "IllustrationData");
     qmlRegisterType<TableColumnsModel>(uri, major, minor, "TableColumnsModel");
     qmlRegisterType<TableContentModel>(uri, major, minor, "TableContentModel");
     qmlRegisterType<MultiEditAction>(uri, major, minor, "MultiEditAction");
@@ -47,6 +66,9 @@ void RegisterQtComponentsTypes(const char* uri)
     qmlRegisterType<TableSelectionModel>(uri, major, minor, "TableSelectionModel");
     qmlRegisterType<TableSelectionFilterModel>(uri, major, minor, "TableSelectionFilterModel");
     qmlRegisterType<FilterBarModel>(uri, major, minor, "FilterBarModel");
+    qmlRegisterType<MarkingMenuSectionConfig>(uri, major, minor, "MarkingMenuSectionConfig");
+    qmlRegisterType<MarkingMenuConfig>(uri, major, minor, "MarkingMenuConfig");
+    qmlRegisterType<MarkingMenu>(uri, major, minor, "MarkingMenu_Cpp");
     qmlRegisterType<QtExtensions::FramelessWindow>(uri, major, minor, "FramelessWindow");
     qmlRegisterSingletonType<StringsQtComponents>(uri, major, minor, "Strings", CreateStrings);
 }

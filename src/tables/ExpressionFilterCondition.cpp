@@ -8,6 +8,7 @@ namespace Orvo::UI::UIComponents {
 
 ExpressionFilterCondition::ExpressionFilterCondition(QString const& operand, Comparer comparer)
     : m_operand(UnicodeStripped(operand).toStdWString())
+    , m_operandNumber(ComparedText::Read(m_operand).number)
     , m_comparer(comparer)
 { }
 
@@ -17,36 +18,38 @@ bool ExpressionFilterCondition::Evaluate(TableCellContent const& cell) const
     // a wide string per cell.
     thread_local std::wstring cellText;
     FilterCellText::WriteComparisonText(cell, cellText);
+    const ComparedText cellSide = ComparedText::Read(cellText);
+    const ComparedText operandSide { m_operand, m_operandNumber };
     const int precision = FilterCellText::Precision(cell);
 
     switch (m_comparer) {
     case Comparer::Less:
-        return IsLess(cellText, m_operand, precision);
+        return IsLess(cellSide, operandSide, precision);
     case Comparer::LessOrEqual:
-        return IsLessOrEqual(cellText, m_operand, precision);
+        return IsLessOrEqual(cellSide, operandSide, precision);
     case Comparer::Equal:
-        return Equal(cellText, m_operand, precision);
+        return Equal(cellSide, operandSide, precision);
     case Comparer::NotEqual:
-        return !Equal(cellText, m_operand, precision);
+        return !Equal(cellSide, operandSide, precision);
     case Comparer::GreaterOrEqual:
-        return IsLessOrEqual(m_operand, cellText, precision);
+        return IsLessOrEqual(operandSide, cellSide, precision);
     case Comparer::Greater:
-        return IsLess(m_operand, cellText, precision);
+        return IsLess(operandSide, cellSide, precision);
     }
     return false;
 }
 
-bool ExpressionFilterCondition::Equal(std::wstring const& a, std::wstring const& b, int precision) const
+bool ExpressionFilterCondition::Equal(ComparedText const& a, ComparedText const& b, int precision) const
 {
     return FilterComparison::Equal(a, b, precision);
 }
 
-bool ExpressionFilterCondition::IsLess(std::wstring const& a, std::wstring const& b, int precision) const
+bool ExpressionFilterCondition::IsLess(ComparedText const& a, ComparedText const& b, int precision) const
 {
     return FilterComparison::IsLess(a, b, precision);
 }
 
-bool ExpressionFilterCondition::IsLessOrEqual(std::wstring const& a, std::wstring const& b,
+bool ExpressionFilterCondition::IsLessOrEqual(ComparedText const& a, ComparedText const& b,
                                               int precision) const
 {
     return FilterComparison::IsLessOrEqual(a, b, precision);

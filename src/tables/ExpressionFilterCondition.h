@@ -4,9 +4,12 @@
 
 #include <QString>
 #include <cstdint>
+#include <optional>
 #include <string>
 
 namespace Orvo::UI::UIComponents {
+
+struct ComparedText;
 
 // A filter text such as "<=5" or "<>abc": the cell's text compared with one operand.
 class ExpressionFilterCondition : public FilterConditionBase
@@ -27,11 +30,12 @@ public:
     bool Evaluate(TableCellContent const& cell) const override;
 
 private:
-    bool Equal(std::wstring const& a, std::wstring const& b, int precision) const;
-    bool IsLess(std::wstring const& a, std::wstring const& b, int precision) const;
-    bool IsLessOrEqual(std::wstring const& a, std::wstring const& b, int precision) const;
+    bool Equal(ComparedText const& a, ComparedText const& b, int precision) const;
+    bool IsLess(ComparedText const& a, ComparedText const& b, int precision) const;
+    bool IsLessOrEqual(ComparedText const& a, ComparedText const& b, int precision) const;
 
     std::wstring m_operand;
+    std::optional<double> m_operandNumber; // read once rather than for every cell
     Comparer m_comparer;
 };
 

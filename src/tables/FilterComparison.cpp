@@ -29,7 +29,9 @@ std::optional<double> ConvertNumber(const wchar_t* begin, std::size_t length, bo
 {
     wchar_t* end = nullptr;
     errno = 0;
-    const double value = wcstod_l(begin, &end, NumberLocale());
+    const locale_t locale = NumberLocale();
+    // Without memory for a locale object the process locale has to do.
+    const double value = locale ? wcstod_l(begin, &end, locale) : wcstod(begin, &end);
     if (end == begin || errno == ERANGE)
         return std::nullopt;
     if (!allowTrailingCharacters && end != begin + length)
@@ -55,17 +57,22 @@ std::optional<double> ReadLeniently(std::wstring_view text)
     return FilterComparison::ReadNumber(text.substr(firstDigit), true);
 }
 
-NumberPair ReadNumbers(std::wstring_view a, std::wstring_view b)
+NumberPair ReadNumbers(ComparedText const& a, ComparedText const& b)
 {
-    NumberPair numbers { FilterComparison::ReadNumber(a, false), FilterComparison::ReadNumber(b, false) };
+    NumberPair numbers { a.number, b.number };
     if (numbers.a && !numbers.b)
-        numbers.b = ReadLeniently(b);
+        numbers.b = ReadLeniently(b.text);
     else if (!numbers.a && numbers.b)
-        numbers.a = ReadLeniently(a);
+        numbers.a = ReadLeniently(a.text);
     return numbers;
 }
 
 } // namespace
+
+ComparedText ComparedText::Read(std::wstring_view text)
+{
+    return { text, FilterComparison::ReadNumber(text, false) };
+}
 
 std::optional<double> FilterComparison::ReadNumber(std::wstring_view text, bool allowTrailingCharacters)
 {
@@ -92,28 +99,28 @@ double FilterComparison::Tolerance(int precision)
     return std::numeric_limits<double>::epsilon();
 }
 
-bool FilterComparison::IsLess(std::wstring_view a, std::wstring_view b, int precision)
+bool FilterComparison::IsLess(ComparedText const& a, ComparedText const& b, int precision)
 {
     const NumberPair numbers = ReadNumbers(a, b);
     if (numbers.BothRead())
         return *numbers.b - *numbers.a > Tolerance(precision);
-    return NaturalTextOrder::Before(a, b);
+    return NaturalTextOrder::Before(a.text, b.text);
 }
 
-bool FilterComparison::IsLessOrEqual(std::wstring_view a, std::wstring_view b, int precision)
+bool FilterComparison::IsLessOrEqual(ComparedText const& a, ComparedText const& b, int precision)
 {
     const NumberPair numbers = ReadNumbers(a, b);
     if (numbers.BothRead())
         return *numbers.b - *numbers.a > -Tolerance(precision);
-    return !NaturalTextOrder::Before(b, a);
+    return !NaturalTextOrder::Before(b.text, a.text);
 }
 
-bool FilterComparison::Equal(std::wstring_view a, std::wstring_view b, int precision)
+bool FilterComparison::Equal(ComparedText const& a, ComparedText const& b, int precision)
 {
     const NumberPair numbers = ReadNumbers(a, b);
     if (numbers.BothRead())
         return Tolerance(precision) >= std::abs(*numbers.a - *numbers.b);
-    return !NaturalTextOrder::Before(a, b) && !NaturalTextOrder::Before(b, a);
+    return !NaturalTextOrder::Before(a.text, b.text) && !NaturalTextOrder::Before(b.text, a.text);
 }
 
 } // namespace Orvo::UI::UIComponents

@@ -5,6 +5,16 @@
 
 namespace Orvo::UI::UIComponents {
 
+// One side of a comparison: its text and, read once, the number the whole text is (if any).
+// A view: the text must outlive it.
+struct ComparedText
+{
+    static ComparedText Read(std::wstring_view text);
+
+    std::wstring_view text;
+    std::optional<double> number;
+};
+
 // The comparisons that filter conditions make between a cell's text and a filter operand:
 // as numbers when both sides read as numbers (within the tolerance of the shown decimals),
 // otherwise in the natural text order.
@@ -19,9 +29,9 @@ public:
     static double Tolerance(int precision);
 
     // a is always the left side: IsLess(a, b) is "a < b".
-    static bool IsLess(std::wstring_view a, std::wstring_view b, int precision);
-    static bool IsLessOrEqual(std::wstring_view a, std::wstring_view b, int precision);
-    static bool Equal(std::wstring_view a, std::wstring_view b, int precision);
+    static bool IsLess(ComparedText const& a, ComparedText const& b, int precision);
+    static bool IsLessOrEqual(ComparedText const& a, ComparedText const& b, int precision);
+    static bool Equal(ComparedText const& a, ComparedText const& b, int precision);
 };
 
 } // namespace Orvo::UI::UIComponents

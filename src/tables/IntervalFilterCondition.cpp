@@ -22,8 +22,11 @@ IntervalFilterCondition::IntervalFilterCondition(ValueLimit lower, ValueLimit up
 {
     // Bounds typed the wrong way round are put in order, but each keeps the bracket it was typed
     // with: "[5;1)" is the range from 1 exclusive to 5 inclusive. Users' saved filters rely on it.
-    if (!FilterComparison::IsLess(m_lower, m_upper, c_noPrecision)) {
+    m_lowerNumber = ComparedText::Read(m_lower).number;
+    m_upperNumber = ComparedText::Read(m_upper).number;
+    if (!FilterComparison::IsLess({ m_lower, m_lowerNumber }, { m_upper, m_upperNumber }, c_noPrecision)) {
         std::swap(m_lower, m_upper);
+        std::swap(m_lowerNumber, m_upperNumber);
         std::swap(m_lowerInclusive, m_upperInclusive);
     }
 }
@@ -32,14 +35,17 @@ bool IntervalFilterCondition::Evaluate(TableCellContent const& cell) const
 {
     thread_local std::wstring cellText;
     FilterCellText::WriteComparisonText(cell, cellText);
+    const ComparedText cellSide = ComparedText::Read(cellText);
+    const ComparedText lower { m_lower, m_lowerNumber };
+    const ComparedText upper { m_upper, m_upperNumber };
     const int precision = FilterCellText::Precision(cell);
 
-    const bool aboveLower = m_lowerInclusive ? FilterComparison::IsLessOrEqual(m_lower, cellText, precision)
-                                             : FilterComparison::IsLess(m_lower, cellText, precision);
+    const bool aboveLower = m_lowerInclusive ? FilterComparison::IsLessOrEqual(lower, cellSide, precision)
+                                             : FilterComparison::IsLess(lower, cellSide, precision);
     if (!aboveLower)
         return false;
-    return m_upperInclusive ? FilterComparison::IsLessOrEqual(cellText, m_upper, precision)
-                            : FilterComparison::IsLess(cellText, m_upper, precision);
+    return m_upperInclusive ? FilterComparison::IsLessOrEqual(cellSide, upper, precision)
+                            : FilterComparison::IsLess(cellSide, upper, precision);
 }
 
 } // namespace Orvo::UI::UIComponents

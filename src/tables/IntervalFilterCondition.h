@@ -3,6 +3,7 @@
 #include "FilterConditionBase.h"
 
 #include <QString>
+#include <optional>
 #include <string>
 
 namespace Orvo::UI::UIComponents {
@@ -26,6 +27,9 @@ private:
     std::wstring m_upper;
     bool m_lowerInclusive;
     bool m_upperInclusive;
+    // The bounds read as numbers once rather than for every cell.
+    std::optional<double> m_lowerNumber;
+    std::optional<double> m_upperNumber;
 };
 
 } // namespace Orvo::UI::UIComponents

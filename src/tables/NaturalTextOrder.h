@@ -6,7 +6,8 @@ namespace Orvo::UI::UIComponents {
 
 // The order in which filter texts and cell texts compare when they are not both numbers:
 // runs of decimal digits compare by their numeric value ("item2" before "item10", "007" equal to
-// "7"), everything else case-insensitively by the default locale's collation.
+// "7"), everything else case-insensitively by the default locale's collation (character values in
+// the classic locale).
 class NaturalTextOrder
 {
 public:

@@ -1,0 +1,33 @@
+#pragma once
+
+#include "CommandDefinition.h"
+
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace Orvo::Kernel::Framework {
+
+// The host's list of commands. Changes are announced on the event bus: enabled and visible
+// states with Orvo::UI::Events::CommandStateChange, shortcuts with CommandShortcutChange.
+class ICommandRepository
+{
+public:
+    virtual ~ICommandRepository() = default;
+
+    virtual std::optional<CommandDefinition> FindCommand(const std::wstring& uuid) const = 0;
+    // In the repository's order (the order of the commands file).
+    virtual std::vector<CommandDefinition> GetCommands() const = 0;
+    // The commands that have a shortcut, in the repository's order.
+    virtual std::vector<ShortcutEntry> GetShortcuts() const = 0;
+
+    // Each returns false, changing nothing, for an unknown command (or a shortcut text that
+    // is no key sequence); an empty shortcut removes the binding.
+    virtual bool SetCommandEnabled(const std::wstring& uuid, bool enabled) = 0;
+    virtual bool SetCommandVisible(const std::wstring& uuid, bool visible) = 0;
+    virtual bool SetShortcut(const std::wstring& uuid, const std::wstring& shortcut) = 0;
+    // Enables or disables every command of group; false when the group has no command.
+    virtual bool SetGroupEnabled(const std::wstring& group, bool enabled) = 0;
+};
+
+} // namespace Orvo::Kernel::Framework

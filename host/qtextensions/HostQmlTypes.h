@@ -1,0 +1,12 @@
+#pragma once
+
+#include "HostKitExport.h"
+
+namespace Orvo::UI::QtExtensions {
+
+// The host's own QML types, under the module "Orvo.QtExtensions" 1.0 (ViewInputArea).
+HOSTKIT_EXPORT void RegisterHostQmlTypes();
+
+inline constexpr const char* c_hostQmlModule = "Orvo.QtExtensions";
+
+} // namespace Orvo::UI::QtExtensions
