@@ -682,6 +682,7 @@
     <message id="UI_COMMAND_SAVE">
         <source>Save</source>
         <translation>Save</translation>
+    </message>
     <message id="UI_TABLE_MULTIPLE_EDITBOX_ADD">
         <source>Add</source>
         <translation>Add</translation>
@@ -886,6 +887,9 @@
         <source>Several values</source>
         <translation>Several values</translation>
     </message>
+    <message id="UI_TABLE_FILTER_PLACEHOLDER">
+        <source>Filter</source>
+        <translation>Filter</translation>
     </message>
 </context>
 </TS>
