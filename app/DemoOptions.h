@@ -7,7 +7,7 @@
 struct DemoOptions
 {
     QString screenshotFile; // empty: run interactively
-    QString page;           // the page to open first, by its name
+    QString page; // the page to open first, by its name
     int screenshotDelayMs = 400;
     bool valid = true;
     QString error;

@@ -11,8 +11,7 @@ ScreenshotTaker::ScreenshotTaker(QQuickWindow* window, QString file, int delayMs
     , m_window(window)
     , m_file(std::move(file))
     , m_delayMs(delayMs)
-{
-}
+{ }
 
 void ScreenshotTaker::Start()
 {

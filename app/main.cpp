@@ -2,6 +2,7 @@
 #include "ScreenshotTaker.h"
 
 #include "framework/HostApplication.h"
+#include "kernel/PathText.h"
 
 #include <QDir>
 #include <QGuiApplication>
@@ -44,15 +45,17 @@ int main(int argc, char** argv)
         return 2;
     }
 
-    Orvo::Kernel::Framework::HostApplication::Start(QGuiApplication::applicationDirPath().toStdWString());
+    Orvo::Kernel::Framework::HostApplication::Start(
+        Orvo::Kernel::Directories::ToPath(QGuiApplication::applicationDirPath()));
 
     QQmlApplicationEngine engine;
     // The build lays the QML import directory out beside bin/.
-    engine.addImportPath(QDir(QGuiApplication::applicationDirPath()).absoluteFilePath(QStringLiteral("../qml")));
+    engine.addImportPath(
+        QDir(QGuiApplication::applicationDirPath()).absoluteFilePath(QStringLiteral("../qml")));
     engine.rootContext()->setContextProperty(QStringLiteral("initialPage"), options.page);
     QObject::connect(
-        &engine, &QQmlApplicationEngine::objectCreationFailed, &application, []() { QCoreApplication::exit(1); },
-        Qt::QueuedConnection);
+        &engine, &QQmlApplicationEngine::objectCreationFailed, &application,
+        []() { QCoreApplication::exit(1); }, Qt::QueuedConnection);
     engine.load(QUrl(QStringLiteral("qrc:/demo/qml/Main.qml")));
     if (engine.rootObjects().isEmpty())
         return 1;
@@ -62,7 +65,8 @@ int main(int argc, char** argv)
         return 1;
 
     if (!options.screenshotFile.isEmpty()) {
-        auto* taker = new ScreenshotTaker(window, options.screenshotFile, options.screenshotDelayMs, &application);
+        auto* taker
+            = new ScreenshotTaker(window, options.screenshotFile, options.screenshotDelayMs, &application);
         taker->Start();
     }
     return QGuiApplication::exec();

@@ -31,7 +31,8 @@ std::shared_ptr<TranslationStringLoader> CreateStringLoader()
     initHostKitResources();
     auto loader = std::make_shared<TranslationStringLoader>();
     // English is the catalogue every identifier has; a translated catalogue replaces it when present.
-    loader->LoadTable(DefaultServices::c_componentsStringTable, QStringLiteral(":/i18n"), QStringLiteral("en"));
+    loader->LoadTable(DefaultServices::c_componentsStringTable, QStringLiteral(":/i18n"),
+                      QStringLiteral("en"));
     const QString language = QLocale().name().section(QLatin1Char('_'), 0, 0);
     if (language != QLatin1String("en") && language != QLatin1String("C"))
         loader->LoadTable(DefaultServices::c_componentsStringTable, QStringLiteral(":/i18n"), language);

@@ -7,8 +7,7 @@ namespace Orvo::Kernel::Framework {
 EventBus::EventBus()
     : m_registry(std::make_shared<EventBusRegistry>())
     , m_threadContext(std::make_unique<QObject>())
-{
-}
+{ }
 
 EventBus::~EventBus() = default;
 

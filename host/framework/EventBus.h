@@ -26,8 +26,7 @@ public:
     EventBus(const EventBus&) = delete;
     EventBus& operator=(const EventBus&) = delete;
 
-    template<class Event>
-    [[nodiscard]] EventConnection Subscribe(std::function<void(const Event&)> handler)
+    template<class Event> [[nodiscard]] EventConnection Subscribe(std::function<void(const Event&)> handler)
     {
         auto id = m_registry->Add(typeid(Event), [handler = std::move(handler)](const void* event) {
             handler(*static_cast<const Event*>(event));
@@ -35,8 +34,7 @@ public:
         return EventConnection(m_registry, id);
     }
 
-    template<class Event>
-    void Post(Event event)
+    template<class Event> void Post(Event event)
     {
         if (IsBusThread()) {
             m_registry->Dispatch(typeid(Event), &event);
@@ -49,11 +47,7 @@ public:
         });
     }
 
-    template<class Event>
-    std::size_t SubscriberCount() const
-    {
-        return m_registry->CountFor(typeid(Event));
-    }
+    template<class Event> std::size_t SubscriberCount() const { return m_registry->CountFor(typeid(Event)); }
 
 private:
     bool IsBusThread() const;

@@ -27,8 +27,9 @@ bool EventBusRegistry::Contains(std::uint64_t subscriptionId) const
 
 std::size_t EventBusRegistry::CountFor(std::type_index eventType) const
 {
-    return static_cast<std::size_t>(std::count_if(m_subscriptions.begin(), m_subscriptions.end(),
-                                                  [&](const Subscription& s) { return s.eventType == eventType; }));
+    return static_cast<std::size_t>(
+        std::count_if(m_subscriptions.begin(), m_subscriptions.end(),
+                      [&](const Subscription& s) { return s.eventType == eventType; }));
 }
 
 const EventBusRegistry::Subscription* EventBusRegistry::Find(std::uint64_t subscriptionId) const

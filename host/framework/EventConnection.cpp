@@ -9,14 +9,12 @@ namespace Orvo::Kernel::Framework {
 EventConnection::EventConnection(std::weak_ptr<EventBusRegistry> registry, std::uint64_t subscriptionId)
     : m_registry(std::move(registry))
     , m_subscriptionId(subscriptionId)
-{
-}
+{ }
 
 EventConnection::EventConnection(EventConnection&& other) noexcept
     : m_registry(std::move(other.m_registry))
     , m_subscriptionId(std::exchange(other.m_subscriptionId, 0))
-{
-}
+{ }
 
 EventConnection& EventConnection::operator=(EventConnection&& other) noexcept
 {

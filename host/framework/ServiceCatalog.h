@@ -25,24 +25,18 @@ public:
     // A fresh catalog holding the host kit's default services.
     static std::shared_ptr<ServiceCatalog> CreateWithDefaults();
 
-    template<class Service>
-    void Register(std::shared_ptr<Service> service)
+    template<class Service> void Register(std::shared_ptr<Service> service)
     {
         m_services[typeid(Service)] = std::move(service);
     }
 
-    template<class Service>
-    std::shared_ptr<Service> Get() const
+    template<class Service> std::shared_ptr<Service> Get() const
     {
         auto it = m_services.find(typeid(Service));
         return it == m_services.end() ? nullptr : std::static_pointer_cast<Service>(it->second);
     }
 
-    template<class Service>
-    void Unregister()
-    {
-        m_services.erase(typeid(Service));
-    }
+    template<class Service> void Unregister() { m_services.erase(typeid(Service)); }
 
     // Injectors know one client interface each; Inject runs all of them on the client.
     void AddInjector(Injector injector);

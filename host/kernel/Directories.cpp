@@ -1,5 +1,7 @@
 #include "Directories.h"
 
+#include "PathText.h"
+
 #include <QCoreApplication>
 #include <QDir>
 #include <QStandardPaths>
@@ -18,13 +20,13 @@ std::filesystem::path DefaultDirectory(DirectoryType type)
     switch (type) {
     case DirectoryType::ApplicationDirectory:
         if (QCoreApplication::instance())
-            return QCoreApplication::applicationDirPath().toStdWString();
+            return ToPath(QCoreApplication::applicationDirPath());
         return std::filesystem::current_path();
     case DirectoryType::UserConfigurationDirectory: {
         QString location = QStandardPaths::writableLocation(QStandardPaths::AppConfigLocation);
         if (location.isEmpty())
             location = QDir::homePath() + QStringLiteral("/.config/QtComponents");
-        return location.toStdWString();
+        return ToPath(location);
     }
     case DirectoryType::TemporaryDirectory:
         return std::filesystem::temp_directory_path();

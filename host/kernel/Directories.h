@@ -8,7 +8,7 @@ namespace Orvo::Kernel::Directories {
 
 enum class DirectoryType
 {
-    ApplicationDirectory,       // shipped files: Configuration/, images, command lists
+    ApplicationDirectory, // shipped files: Configuration/, images, command lists
     UserConfigurationDirectory, // per-user settings written by the components
     TemporaryDirectory,
 };

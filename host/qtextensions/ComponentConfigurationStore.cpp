@@ -1,6 +1,7 @@
 #include "ComponentConfigurationStore.h"
 
 #include "framework/Debug.h"
+#include "kernel/PathText.h"
 
 #include <QDir>
 #include <QFile>
@@ -56,7 +57,7 @@ void ComponentConfigurationStore::Store(const QString& key, const QString& confi
 
 void ComponentConfigurationStore::ReadFile()
 {
-    QFile file(QString::fromStdWString(m_file.wstring()));
+    QFile file(Kernel::Directories::ToQString(m_file));
     if (!file.exists())
         return;
     if (!file.open(QIODevice::ReadOnly)) {
@@ -82,7 +83,7 @@ void ComponentConfigurationStore::ReadFile()
 
 void ComponentConfigurationStore::WriteFile() const
 {
-    const QString path = QString::fromStdWString(m_file.wstring());
+    const QString path = Kernel::Directories::ToQString(m_file);
     QDir().mkpath(QFileInfo(path).absolutePath());
     QJsonObject object;
     for (auto it = m_configurations.begin(); it != m_configurations.end(); ++it)

@@ -1,6 +1,7 @@
 #include "File.h"
 
 #include "kernel/Directories.h"
+#include "kernel/PathText.h"
 
 #include <QDir>
 #include <QUrl>
@@ -9,7 +10,7 @@ namespace Orvo::UI::QtExtensions::File {
 
 QString createQmlFilePath(const std::filesystem::path& path)
 {
-    const QString local = QDir::cleanPath(QString::fromStdWString(path.wstring()));
+    const QString local = QDir::cleanPath(Kernel::Directories::ToQString(path));
     return QUrl::fromLocalFile(local).toString();
 }
 
@@ -19,8 +20,8 @@ std::wstring getRelativePathFromQmlPath(const QString& qmlPath)
     if (!url.isLocalFile())
         return qmlPath.toStdWString();
     const QString local = QDir::cleanPath(url.toLocalFile());
-    const QDir applicationDirectory(QString::fromStdWString(
-        Kernel::Directories::GetDirectory(Kernel::Directories::DirectoryType::ApplicationDirectory).wstring()));
+    const QDir applicationDirectory(Kernel::Directories::ToQString(
+        Kernel::Directories::GetDirectory(Kernel::Directories::DirectoryType::ApplicationDirectory)));
     const QString relative = applicationDirectory.relativeFilePath(local);
     if (relative.startsWith(QLatin1String("../")) || relative == QLatin1String(".."))
         return local.toStdWString();

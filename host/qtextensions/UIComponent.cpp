@@ -18,8 +18,7 @@ std::shared_ptr<ComponentConfigurationStore> Store()
 
 UIComponent::UIComponent(QQuickItem* parent)
     : QQuickItem(parent)
-{
-}
+{ }
 
 UIComponent::~UIComponent() = default;
 
@@ -80,7 +79,8 @@ void UIComponent::storeConfiguration()
         if (auto store = Store())
             store->Store(configurationKey(), saveConfiguration());
     } catch (const std::exception& error) {
-        Kernel::Framework::DebugOutput(QStringLiteral("%1: %2").arg(configurationKey(), QString::fromUtf8(error.what())));
+        Kernel::Framework::DebugOutput(
+            QStringLiteral("%1: %2").arg(configurationKey(), QString::fromUtf8(error.what())));
     }
 }
 
@@ -93,13 +93,15 @@ void UIComponent::componentComplete()
     try {
         loadConfiguration(configuration);
     } catch (const std::exception& error) {
-        Kernel::Framework::DebugOutput(QStringLiteral("%1: %2").arg(configurationKey(), QString::fromUtf8(error.what())));
+        Kernel::Framework::DebugOutput(
+            QStringLiteral("%1: %2").arg(configurationKey(), QString::fromUtf8(error.what())));
     }
     m_configurationLoaded = true;
     // Derived panels are already gone in our destructor, so store while they are whole:
     // when the item leaves its window and when the application quits.
     if (QCoreApplication::instance())
-        connect(QCoreApplication::instance(), &QCoreApplication::aboutToQuit, this, &UIComponent::storeConfiguration);
+        connect(QCoreApplication::instance(), &QCoreApplication::aboutToQuit, this,
+                &UIComponent::storeConfiguration);
 }
 
 void UIComponent::itemChange(ItemChange change, const ItemChangeData& data)

@@ -6,8 +6,7 @@ namespace Orvo::UI::UIComponents {
 
 StringsQtComponents::StringsQtComponents(QObject* parent)
     : QObject(parent)
-{
-}
+{ }
 
 QString StringsQtComponents::text(QString id) const
 {

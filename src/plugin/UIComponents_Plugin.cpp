@@ -8,8 +8,7 @@ namespace Orvo::UI::UIComponents {
 
 UIComponents_Plugin::UIComponents_Plugin()
     : QQmlExtensionPlugin(nullptr)
-{
-}
+{ }
 
 void UIComponents_Plugin::registerTypes(const char* uri)
 {

@@ -7,19 +7,16 @@ namespace Orvo::UI::UIComponents {
 
 Jobs::Jobs()
     : m_owner(std::this_thread::get_id())
-{
-}
+{ }
 
 Jobs::Jobs(const std::thread::id& owner)
     : m_owner(owner)
-{
-}
+{ }
 
 Jobs::Jobs(const Jobs& other)
     : m_owner(other.m_owner)
     , m_pending(other.m_pending)
-{
-}
+{ }
 
 Jobs& Jobs::operator=(const Jobs& other)
 {

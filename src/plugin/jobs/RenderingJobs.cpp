@@ -7,8 +7,7 @@ namespace Orvo::UI::UIComponents {
 
 RenderingJobs::RenderingJobs(QQuickItem* item)
     : m_item(item)
-{
-}
+{ }
 
 void RenderingJobs::SetReleased(bool released)
 {

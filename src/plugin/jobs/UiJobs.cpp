@@ -7,8 +7,7 @@ namespace Orvo::UI::UIComponents {
 
 UiJobs::UiJobs(QObject* context)
     : m_context(context)
-{
-}
+{ }
 
 void UiJobs::RequestPerform()
 {
