@@ -1,6 +1,7 @@
 #include "TypeRegistration.h"
 
 #include "StringsQtComponents.h"
+#include "commands/HotkeyHandler.h"
 #include "qtextensions/FramelessWindow.h"
 
 #include <QQmlEngine>
@@ -23,6 +24,7 @@ void RegisterQtComponentsTypes(const char* uri)
     constexpr int minor = 0;
 
     // The order below is the module's registration order; keep new rows in their place.
+    qmlRegisterType<HotkeyHandler>(uri, major, minor, "HotkeyHandler_Cpp");
     qmlRegisterType<QtExtensions::FramelessWindow>(uri, major, minor, "FramelessWindow");
     qmlRegisterSingletonType<StringsQtComponents>(uri, major, minor, "Strings", CreateStrings);
 }
