@@ -1,3 +1,41 @@
+#include "framework/HostApplication.h"
+#include "framework/ServiceCatalog.h"
+#include "kernel/Directories.h"
+#include "kernel/PathText.h"
+#include "qtextensions/ShellQmlContext.h"
+
+#include <QQmlContext>
+#include <QQmlEngine>
+#include <QTemporaryDir>
 #include <QtQuickTest>
 
-QUICK_TEST_MAIN(qtcomponents)
+// Every test document runs in an application like the real one: a host started on the test
+// data directory (its Configuration/ files are the shipped ones), whose shell context is the
+// test engine's root context, and whose user settings go to a folder of their own.
+class QmlTestHost : public QObject
+{
+    Q_OBJECT
+
+public slots:
+    void applicationAvailable()
+    {
+        using namespace Orvo::Kernel;
+        Directories::SetDirectory(Directories::DirectoryType::UserConfigurationDirectory,
+                                  Directories::ToPath(m_userConfiguration.path()));
+        Framework::HostApplication::Start(Directories::ToPath(QStringLiteral(QTC_QML_TEST_DATA_DIR)));
+    }
+
+    void qmlEngineAvailable(QQmlEngine* engine)
+    {
+        using Orvo::UI::QtExtensions::ShellQmlContext;
+        if (auto shell = Orvo::Kernel::Framework::ServiceCatalog::Global()->Get<ShellQmlContext>())
+            shell->SetContext(engine->rootContext());
+    }
+
+private:
+    QTemporaryDir m_userConfiguration;
+};
+
+QUICK_TEST_MAIN_WITH_SETUP(qtcomponents, QmlTestHost)
+
+#include "qmltest.moc"

@@ -1,6 +1,6 @@
 import QtQuick
 import QtQuick.Controls.Basic as Controls
-import QtQuick.Layouts
+import QtQuick.Templates as T
 import BasicComponents.Constants
 import Orvo.QtExtensions
 
@@ -12,7 +12,7 @@ Controls.Dialog {
     property alias text: message.text
     property string acceptText: "OK"
 
-    parent: Controls.Overlay.overlay
+    parent: T.Overlay.overlay
     anchors.centerIn: parent
     width: Math.min(420, parent ? parent.width - 40 : 420)
     modal: true
