@@ -17,6 +17,8 @@ DemoOptions DemoOptions::Parse(const QStringList& arguments)
             takeValue(options.screenshotFile);
         } else if (argument == QLatin1String("--page")) {
             takeValue(options.page);
+        } else if (argument == QLatin1String("--hold-marking-menu")) {
+            options.holdMarkingMenu = true;
         } else if (argument == QLatin1String("--delay")) {
             QString delay;
             takeValue(delay);

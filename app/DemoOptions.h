@@ -9,6 +9,7 @@ struct DemoOptions
     QString screenshotFile; // empty: run interactively
     QString page; // the page to open first, by its name
     int screenshotDelayMs = 400;
+    bool holdMarkingMenu = false; // play a secondary-button hold over the marking menu page's view
     bool valid = true;
     QString error;
 

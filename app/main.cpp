@@ -1,4 +1,6 @@
+#include "CommandActivity.h"
 #include "DemoOptions.h"
+#include "MarkingMenuGesture.h"
 #include "ScreenshotTaker.h"
 
 #include "framework/HostApplication.h"
@@ -40,7 +42,7 @@ int main(int argc, char** argv)
 
     const DemoOptions options = DemoOptions::Parse(QGuiApplication::arguments());
     if (!options.valid) {
-        std::fprintf(stderr, "%s\nUsage: QtComponentsDemo [--page NAME] [--screenshot FILE [--delay MS]]\n",
+        std::fprintf(stderr, "%s\nUsage: QtComponentsDemo [--page NAME] [--hold-marking-menu] [--screenshot FILE [--delay MS]]\n",
                      qPrintable(options.error));
         return 2;
     }
@@ -48,11 +50,14 @@ int main(int argc, char** argv)
     Orvo::Kernel::Framework::HostApplication::Start(
         Orvo::Kernel::Directories::ToPath(QGuiApplication::applicationDirPath()));
 
+    // Declared before the engine, which must be gone before the objects its bindings read.
+    CommandActivity commandActivity;
     QQmlApplicationEngine engine;
     // The build lays the QML import directory out beside bin/.
     engine.addImportPath(
         QDir(QGuiApplication::applicationDirPath()).absoluteFilePath(QStringLiteral("../qml")));
     engine.rootContext()->setContextProperty(QStringLiteral("initialPage"), options.page);
+    engine.rootContext()->setContextProperty(QStringLiteral("commandActivity"), &commandActivity);
     QObject::connect(
         &engine, &QQmlApplicationEngine::objectCreationFailed, &application,
         []() { QCoreApplication::exit(1); }, Qt::QueuedConnection);
@@ -64,6 +69,8 @@ int main(int argc, char** argv)
     if (!window)
         return 1;
 
+    if (options.holdMarkingMenu)
+        (new MarkingMenuGesture(window, &application))->Start();
     if (!options.screenshotFile.isEmpty()) {
         auto* taker
             = new ScreenshotTaker(window, options.screenshotFile, options.screenshotDelayMs, &application);

@@ -11,6 +11,7 @@ packages=(
     qml6-module-qtquick qml6-module-qtquick-window qml6-module-qtquick-templates
     qml6-module-qtquick-controls qml6-module-qtquick-layouts qml6-module-qtquick-shapes
     qml6-module-qttest
+    libqt6svg6
     libgl-dev libvulkan-dev libxkbcommon-dev
     libpugixml-dev libmuparser-dev libbenchmark-dev
     xvfb xauth

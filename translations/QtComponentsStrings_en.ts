@@ -19,5 +19,173 @@
         <source>Components</source>
         <translation>Tables, numeric inputs, the marking menu, the properties panel and keyboard shortcuts of the structural model.</translation>
     </message>
+    <message id="UI_APP_PAGE_MARKING_MENU">
+        <source>Marking menu</source>
+        <translation>Marking menu</translation>
+    </message>
+    <message id="UI_APP_MARKING_MENU_VIEW_TITLE">
+        <source>Model view</source>
+        <translation>Model view</translation>
+    </message>
+    <message id="UI_APP_MARKING_MENU_VIEW_HINT">
+        <source>Hold the right mouse button over the model view, move towards a section, then onto a command and release. A quick click does not open the menu.</source>
+        <translation>Hold the right mouse button over the model view, move towards a section, then onto a command and release. A quick click does not open the menu.</translation>
+    </message>
+    <message id="UI_APP_MARKING_MENU_LAST_COMMAND">
+        <source>Last command</source>
+        <translation>Last command</translation>
+    </message>
+    <message id="UI_APP_MARKING_MENU_NO_COMMAND">
+        <source>No command has run yet.</source>
+        <translation>No command has run yet.</translation>
+    </message>
+    <message id="UI_APP_MARKING_MENU_COMMAND_COUNT">
+        <source>Commands run: %1</source>
+        <translation>Commands run: %1</translation>
+    </message>
+    <message id="UI_APP_MARKING_MENU_PARAMETERS">
+        <source>Parameters: %1</source>
+        <translation>Parameters: %1</translation>
+    </message>
+    <message id="UI_APP_MARKING_MENU_ORIGIN">
+        <source>Run from: %1</source>
+        <translation>Run from: %1</translation>
+    </message>
+    <message id="UI_APP_MARKING_MENU_LOCK_MODEL">
+        <source>Lock the model</source>
+        <translation>Lock the model</translation>
+    </message>
+    <message id="UI_APP_MARKING_MENU_LOCK_MODEL_HINT">
+        <source>Disables the Model and Edit commands</source>
+        <translation>Disables the Model and Edit commands: their slices grey out and do not run.</translation>
+    </message>
+    <message id="UI_APP_MARKING_MENU_HOLDING">
+        <source>Secondary button held</source>
+        <translation>Secondary button held</translation>
+    </message>
+    <message id="UI_MARKING_MENU_SECTION_MODEL">
+        <source>Model</source>
+        <translation>Model</translation>
+    </message>
+    <message id="UI_MARKING_MENU_SECTION_LOADS">
+        <source>Loads</source>
+        <translation>Loads</translation>
+    </message>
+    <message id="UI_MARKING_MENU_SECTION_VIEW">
+        <source>View</source>
+        <translation>View</translation>
+    </message>
+    <message id="UI_MARKING_MENU_SECTION_EDIT">
+        <source>Edit</source>
+        <translation>Edit</translation>
+    </message>
+    <message id="UI_COMMAND_NEW_NODE">
+        <source>New node</source>
+        <translation>New node</translation>
+    </message>
+    <message id="UI_COMMAND_NEW_MEMBER">
+        <source>New member</source>
+        <translation>New member</translation>
+    </message>
+    <message id="UI_COMMAND_NEW_SURFACE">
+        <source>New surface</source>
+        <translation>New surface</translation>
+    </message>
+    <message id="UI_COMMAND_NEW_SUPPORT">
+        <source>New support</source>
+        <translation>New support</translation>
+    </message>
+    <message id="UI_COMMAND_NEW_HINGE">
+        <source>New hinge</source>
+        <translation>New hinge</translation>
+    </message>
+    <message id="UI_COMMAND_NEW_OPENING">
+        <source>New opening</source>
+        <translation>New opening</translation>
+    </message>
+    <message id="UI_COMMAND_NODAL_LOAD">
+        <source>Nodal load</source>
+        <translation>Nodal load</translation>
+    </message>
+    <message id="UI_COMMAND_MEMBER_LOAD">
+        <source>Member load</source>
+        <translation>Member load</translation>
+    </message>
+    <message id="UI_COMMAND_SURFACE_LOAD">
+        <source>Surface load</source>
+        <translation>Surface load</translation>
+    </message>
+    <message id="UI_COMMAND_SELF_WEIGHT">
+        <source>Self-weight</source>
+        <translation>Self-weight</translation>
+    </message>
+    <message id="UI_COMMAND_NEW_LOAD_CASE">
+        <source>New load case</source>
+        <translation>New load case</translation>
+    </message>
+    <message id="UI_COMMAND_LOAD_COMBINATIONS">
+        <source>Load combinations</source>
+        <translation>Load combinations</translation>
+    </message>
+    <message id="UI_COMMAND_ZOOM_ALL">
+        <source>Zoom all</source>
+        <translation>Zoom all</translation>
+    </message>
+    <message id="UI_COMMAND_ZOOM_WINDOW">
+        <source>Zoom window</source>
+        <translation>Zoom window</translation>
+    </message>
+    <message id="UI_COMMAND_VIEW_ISOMETRIC">
+        <source>Isometric view</source>
+        <translation>Isometric view</translation>
+    </message>
+    <message id="UI_COMMAND_VIEW_TOP">
+        <source>Top view</source>
+        <translation>Top view</translation>
+    </message>
+    <message id="UI_COMMAND_VIEW_FRONT">
+        <source>Front view</source>
+        <translation>Front view</translation>
+    </message>
+    <message id="UI_COMMAND_SHOW_RESULTS">
+        <source>Show results</source>
+        <translation>Show results</translation>
+    </message>
+    <message id="UI_COMMAND_MOVE">
+        <source>Move</source>
+        <translation>Move</translation>
+    </message>
+    <message id="UI_COMMAND_COPY">
+        <source>Copy</source>
+        <translation>Copy</translation>
+    </message>
+    <message id="UI_COMMAND_ROTATE">
+        <source>Rotate</source>
+        <translation>Rotate</translation>
+    </message>
+    <message id="UI_COMMAND_MIRROR">
+        <source>Mirror</source>
+        <translation>Mirror</translation>
+    </message>
+    <message id="UI_COMMAND_DIVIDE_MEMBER">
+        <source>Divide member</source>
+        <translation>Divide member</translation>
+    </message>
+    <message id="UI_COMMAND_DELETE">
+        <source>Delete</source>
+        <translation>Delete</translation>
+    </message>
+    <message id="UI_COMMAND_UNDO">
+        <source>Undo</source>
+        <translation>Undo</translation>
+    </message>
+    <message id="UI_COMMAND_REDO">
+        <source>Redo</source>
+        <translation>Redo</translation>
+    </message>
+    <message id="UI_COMMAND_SAVE">
+        <source>Save</source>
+        <translation>Save</translation>
+    </message>
 </context>
 </TS>

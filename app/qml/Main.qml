@@ -16,7 +16,8 @@ ApplicationWindow {
 
     // One entry per demo page; each page shows one area of the component library at work.
     readonly property var pages: [
-        { name: "overview", lcid: "UI_APP_PAGE_OVERVIEW", source: "OverviewPage.qml" }
+        { name: "overview", lcid: "UI_APP_PAGE_OVERVIEW", source: "OverviewPage.qml" },
+        { name: "markingmenu", lcid: "UI_APP_PAGE_MARKING_MENU", source: "MarkingMenuPage.qml" }
     ]
 
     function pageIndex(name) {

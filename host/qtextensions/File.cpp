@@ -14,6 +14,16 @@ QString createQmlFilePath(const std::filesystem::path& path)
     return QUrl::fromLocalFile(local).toString();
 }
 
+QString createQmlFilePathFromApplicationPath(const std::filesystem::path& path)
+{
+    if (path.empty())
+        return {};
+    if (path.is_absolute())
+        return createQmlFilePath(path);
+    return createQmlFilePath(
+        Kernel::Directories::GetDirectory(Kernel::Directories::DirectoryType::ApplicationDirectory) / path);
+}
+
 std::wstring getRelativePathFromQmlPath(const QString& qmlPath)
 {
     const QUrl url(qmlPath);

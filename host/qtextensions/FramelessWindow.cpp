@@ -1,6 +1,7 @@
 #include "FramelessWindow.h"
 
 #include <QMouseEvent>
+#include <QSurfaceFormat>
 
 namespace Orvo::UI::QtExtensions {
 
@@ -8,6 +9,10 @@ FramelessWindow::FramelessWindow(QWindow* parent)
     : QQuickWindowQmlImpl(parent)
 {
     setFlags(Qt::Window | Qt::FramelessWindowHint | Qt::NoDropShadowWindowHint);
+    // Without an alpha channel the transparent parts of a popup come out black.
+    QSurfaceFormat surfaceFormat = format();
+    surfaceFormat.setAlphaBufferSize(8);
+    setFormat(surfaceFormat);
     setColor(Qt::transparent);
 }
 

@@ -1,7 +1,11 @@
 #include "TypeRegistration.h"
 
 #include "StringsQtComponents.h"
+#include "commands/CommandMenuHelper.h"
 #include "commands/HotkeyHandler.h"
+#include "markingmenu/MarkingMenu.h"
+#include "markingmenu/MarkingMenuConfig.h"
+#include "markingmenu/MarkingMenuSectionConfig.h"
 #include "qtextensions/FramelessWindow.h"
 
 #include <QQmlEngine>
@@ -25,6 +29,10 @@ void RegisterQtComponentsTypes(const char* uri)
 
     // The order below is the module's registration order; keep new rows in their place.
     qmlRegisterType<HotkeyHandler>(uri, major, minor, "HotkeyHandler_Cpp");
+    qmlRegisterType<CommandMenuHelper>(uri, major, minor, "CommandMenuHelper");
+    qmlRegisterType<MarkingMenuSectionConfig>(uri, major, minor, "MarkingMenuSectionConfig");
+    qmlRegisterType<MarkingMenuConfig>(uri, major, minor, "MarkingMenuConfig");
+    qmlRegisterType<MarkingMenu>(uri, major, minor, "MarkingMenu_Cpp");
     qmlRegisterType<QtExtensions::FramelessWindow>(uri, major, minor, "FramelessWindow");
     qmlRegisterSingletonType<StringsQtComponents>(uri, major, minor, "Strings", CreateStrings);
 }

@@ -4,14 +4,16 @@
 #include "kernel/PathText.h"
 #include "qtextensions/ShellQmlContext.h"
 
+#include <QCoreApplication>
 #include <QQmlContext>
 #include <QQmlEngine>
 #include <QTemporaryDir>
 #include <QtQuickTest>
 
-// Every test document runs in an application like the real one: a host started on the test
-// data directory (its Configuration/ files are the shipped ones), whose shell context is the
-// test engine's root context, and whose user settings go to a folder of their own.
+// Every test document runs in an application like the demo: a host started on the runner's
+// folder, where the build puts the demo's shipped files (commands, marking menu), whose shell
+// context is the test engine's root context, and whose user settings start empty in a folder
+// of their own, so that a user's stored panels never leak into a test.
 class QmlTestHost : public QObject
 {
     Q_OBJECT
@@ -22,7 +24,7 @@ public slots:
         using namespace Orvo::Kernel;
         Directories::SetDirectory(Directories::DirectoryType::UserConfigurationDirectory,
                                   Directories::ToPath(m_userConfiguration.path()));
-        Framework::HostApplication::Start(Directories::ToPath(QStringLiteral(QTC_QML_TEST_DATA_DIR)));
+        Framework::HostApplication::Start(Directories::ToPath(QCoreApplication::applicationDirPath()));
     }
 
     void qmlEngineAvailable(QQmlEngine* engine)

@@ -4,14 +4,19 @@ import Qml.QtComponents
 import Qml.QtBasicComponents
 import Orvo.QtExtensions
 
-// The hotkey handler as the application loads it: keys typed into a window run their
-// commands, and nothing runs while a message box is up.
+// The hotkey handler as the application loads it, over the application's shipped commands:
+// keys typed into a window run their commands, and nothing runs while a message box is up.
 TestCase {
     id: testCase
     name: "HotkeyHandler"
     when: windowShown
     width: 480
     height: 320
+
+    readonly property string origin: "HotkeyHandler"
+    // A binding no shipped command uses, for run-time changes.
+    readonly property string freeSequence: "Ctrl+Alt+Shift+K"
+    property var changedCommand: null
 
     CommandExecutionMonitor {
         id: monitor
@@ -35,81 +40,115 @@ TestCase {
         }
     }
 
-    function loadHandler() {
-        var component = Qt.createComponent("qrc:/UIComponents/HotkeyHandler/HotkeyHandler.qml")
-        verify(component.status === Component.Ready, component.errorString())
-        var handler = createTemporaryObject(component, testCase)
-        verify(handler)
-        return handler
+    // The commands a key runs: enabled, with a shortcut.
+    function boundCommands() {
+        var bound = []
+        for (var row = 0; row < commands.count; ++row) {
+            var index = commands.index(row, 0)
+            var shortcut = commands.data(index, CommandListModel.ShortcutRole)
+            if (shortcut !== "" && commands.data(index, CommandListModel.EnabledRole)) {
+                bound.push({ uuid: commands.data(index, CommandListModel.UuidRole),
+                             shortcut: shortcut,
+                             parameters: commands.data(index, CommandListModel.ParameterStringRole) })
+            }
+        }
+        return bound
+    }
+
+    function ran(command) {
+        return command.uuid + "(" + command.parameters + ") by " + origin
     }
 
     function ranCommands() {
-        var ran = []
+        var ranList = []
         for (var i = 0; i < executed.count; ++i) {
             var args = executed.signalArguments[i]
-            ran.push(args[0] + "(" + args[1] + ") by " + args[2])
+            ranList.push(args[0] + "(" + args[1] + ") by " + args[2])
         }
-        return ran
+        return ranList
+    }
+
+    function rebind(command, shortcut) {
+        changedCommand = command
+        verify(commands.setShortcut(command.uuid, shortcut))
+    }
+
+    function initTestCase() {
+        verify(boundCommands().length > 0, "the application ships commands with shortcuts")
     }
 
     function init() {
-        loadHandler()
+        var component = Qt.createComponent("qrc:/UIComponents/HotkeyHandler/HotkeyHandler.qml")
+        verify(component.status === Component.Ready, component.errorString())
+        verify(createTemporaryObject(component, testCase))
         executed.clear()
     }
 
     function cleanup() {
-        commands.setShortcut("test.node", "Ctrl+Shift+N")
+        if (changedCommand)
+            commands.setShortcut(changedCommand.uuid, changedCommand.shortcut)
+        changedCommand = null
     }
 
-    function test_keySequenceRunsItsCommand_data() {
-        return [
-            { tag: "modifiers and a letter", keys: "Ctrl+Shift+N", ran: "test.node() by HotkeyHandler" },
-            { tag: "function key, with parameters", keys: "F7", ran: "test.measure(mode=distance) by HotkeyHandler" },
-            { tag: "the binding to Enter", keys: "Enter", ran: "test.confirm(apply) by HotkeyHandler" },
-            { tag: "Return answers the Enter binding", keys: "Return", ran: "test.confirm(apply) by HotkeyHandler" }
-        ]
+    function test_everyShortcutRunsItsCommand_data() {
+        return boundCommands().map(command => ({ tag: command.shortcut, command: command }))
     }
 
-    function test_keySequenceRunsItsCommand(data) {
-        keySequence(data.keys)
-        compare(ranCommands(), [data.ran])
+    function test_everyShortcutRunsItsCommand(data) {
+        keySequence(data.command.shortcut)
+        compare(ranCommands(), [ran(data.command)])
     }
 
-    function test_unboundAndDisabledRunNothing_data() {
-        return [
-            { tag: "a key no command is bound to", keys: "Ctrl+Shift+Q" },
-            { tag: "a disabled command", keys: "Ctrl+L" }
-        ]
+    function test_anUnboundKeyRunsNothing() {
+        keySequence(freeSequence)
+        compare(ranCommands(), [])
     }
 
-    function test_unboundAndDisabledRunNothing(data) {
-        keySequence(data.keys)
+    function test_returnAlsoAnswersACommandBoundToEnter() {
+        var command = boundCommands()[0]
+        rebind(command, "Enter")
+
+        keySequence("Enter")
+        keySequence("Return")
+
+        compare(ranCommands(), [ran(command), ran(command)])
+    }
+
+    // Not a wish, a record: the extra row repeats a Return binding, so two shortcuts share
+    // the key, and Qt reports such a key as ambiguous instead of running either.
+    function test_aCommandBoundToReturnIsAmbiguous() {
+        var command = boundCommands()[0]
+        rebind(command, "Return")
+
+        keySequence("Return")
+
         compare(ranCommands(), [])
     }
 
     function test_nothingRunsWhileAMessageBoxIsVisible() {
+        var command = boundCommands()[0]
         var box = createTemporaryObject(messageBoxComponent, testCase)
         box.open()
         tryCompare(box, "visible", true)
         compare(hotkeyHandlerModel.shortcutsEnabled, false)
 
-        keySequence("Ctrl+Shift+N")
-        keySequence("F7")
+        keySequence(command.shortcut)
         compare(ranCommands(), [])
 
         box.close()
         tryCompare(box, "visible", false)
         compare(hotkeyHandlerModel.shortcutsEnabled, true)
-        keySequence("Ctrl+Shift+N")
-        compare(ranCommands(), ["test.node() by HotkeyHandler"])
+        keySequence(command.shortcut)
+        compare(ranCommands(), [ran(command)])
     }
 
     function test_aShortcutChangedAtRunTimeAnswersAtOnce() {
-        verify(commands.setShortcut("test.node", "Ctrl+Alt+K"))
+        var command = boundCommands()[0]
+        rebind(command, freeSequence)
 
-        keySequence("Ctrl+Shift+N")
+        keySequence(command.shortcut)
         compare(ranCommands(), [])
-        keySequence("Ctrl+Alt+K")
-        compare(ranCommands(), ["test.node() by HotkeyHandler"])
+        keySequence(freeSequence)
+        compare(ranCommands(), [ran(command)])
     }
 }

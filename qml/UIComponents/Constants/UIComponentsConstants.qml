@@ -16,6 +16,10 @@ QtObject {
     readonly property color markingMenuSlice: "#3a4660"
     readonly property color markingMenuSliceHover: BasicConstants.colors.accent
     readonly property color markingMenuText: "#ffffff"
+    readonly property color markingMenuSliceEmpty: "#802b3445"
+    readonly property color markingMenuSliceDisabledHover: "#5b6478"
+    readonly property color markingMenuCentre: "#1b2130"
+    readonly property color markingMenuMark: "#b0ffffff"
 
     readonly property int tableRowHeight: BasicConstants.sizes.rowHeight
     readonly property int tableHeaderHeight: 28

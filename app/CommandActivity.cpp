@@ -1,0 +1,44 @@
+#include "CommandActivity.h"
+
+#include "commands/ICommandRepository.h"
+#include "events/CommandExecuted.h"
+#include "framework/DefaultServices.h"
+#include "framework/EventBus.h"
+#include "framework/IStringLoader.h"
+#include "framework/ServiceCatalog.h"
+#include "qtextensions/File.h"
+
+using namespace Orvo::Kernel::Framework;
+
+CommandActivity::CommandActivity(QObject* parent)
+    : QObject(parent)
+{
+    auto catalog = ServiceCatalog::Global();
+    auto eventbus = catalog->Get<EventBus>();
+    if (!eventbus)
+        return;
+    m_executedConnection = eventbus->Subscribe<Orvo::UI::Events::CommandExecuted>(
+        [this](const Orvo::UI::Events::CommandExecuted& event) {
+            auto catalog = ServiceCatalog::Global();
+            const auto repository = catalog->Get<ICommandRepository>();
+            const auto command = repository ? repository->FindCommand(event.GetCommandUuid()) : std::nullopt;
+            const auto strings = catalog->Get<IStringLoader>();
+            m_lastCommandUuid = QString::fromStdWString(event.GetCommandUuid());
+            m_lastCommandName = command && strings ? QString::fromStdWString(strings->Load(
+                                    { command->nameId, DefaultServices::c_componentsStringTable }))
+                                                   : m_lastCommandUuid;
+            m_lastCommandIcon = command
+                ? Orvo::UI::QtExtensions::File::createQmlFilePathFromApplicationPath(command->icon)
+                : QString();
+            m_lastParameters = QString::fromStdWString(event.GetParameterString());
+            m_lastOrigin = QString::fromStdWString(event.GetOrigin());
+            ++m_runCount;
+            emit commandRun();
+        });
+}
+
+bool CommandActivity::setGroupEnabled(const QString& group, bool enabled)
+{
+    auto repository = ServiceCatalog::Global()->Get<ICommandRepository>();
+    return repository && repository->SetGroupEnabled(group.toStdWString(), enabled);
+}

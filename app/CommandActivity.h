@@ -1,0 +1,43 @@
+#pragma once
+
+#include "framework/EventConnection.h"
+
+#include <QObject>
+#include <QString>
+
+// The demo's stand-in for the application's command handlers: it listens for the commands the
+// UI command processor runs and shows the last one, and lets the page lock command groups.
+class CommandActivity : public QObject
+{
+    Q_OBJECT
+    Q_PROPERTY(QString lastCommandUuid READ lastCommandUuid NOTIFY commandRun)
+    Q_PROPERTY(QString lastCommandName READ lastCommandName NOTIFY commandRun)
+    Q_PROPERTY(QString lastCommandIcon READ lastCommandIcon NOTIFY commandRun)
+    Q_PROPERTY(QString lastParameters READ lastParameters NOTIFY commandRun)
+    Q_PROPERTY(QString lastOrigin READ lastOrigin NOTIFY commandRun)
+    Q_PROPERTY(int runCount READ runCount NOTIFY commandRun)
+
+public:
+    explicit CommandActivity(QObject* parent = nullptr);
+
+    QString lastCommandUuid() const { return m_lastCommandUuid; }
+    QString lastCommandName() const { return m_lastCommandName; }
+    QString lastCommandIcon() const { return m_lastCommandIcon; }
+    QString lastParameters() const { return m_lastParameters; }
+    QString lastOrigin() const { return m_lastOrigin; }
+    int runCount() const { return m_runCount; }
+
+    Q_INVOKABLE bool setGroupEnabled(const QString& group, bool enabled);
+
+signals:
+    void commandRun();
+
+private:
+    QString m_lastCommandUuid;
+    QString m_lastCommandName;
+    QString m_lastCommandIcon;
+    QString m_lastParameters;
+    QString m_lastOrigin;
+    int m_runCount = 0;
+    Orvo::Kernel::Framework::EventConnection m_executedConnection;
+};

@@ -1,0 +1,87 @@
+import QtQuick
+import QtQuick.Shapes
+import UIComponents.Constants
+import "MarkingMenuGeometry.js" as MarkingMenuGeometry
+
+// The first level: four sectors around a dead centre, one per section, each with the
+// section's icon. Sections that are not offered stay dark.
+Item {
+    id: firstLevel
+
+    property var sections: []
+    property int selectedSection: MarkingMenuGeometry.noSection
+
+    readonly property real outerRadius: MarkingMenuGeometry.firstLevelOuterRadius
+    readonly property real deadRadius: MarkingMenuGeometry.firstLevelDeadRadius
+
+    width: outerRadius * 2
+    height: outerRadius * 2
+
+    Repeater {
+        model: MarkingMenuGeometry.sectionCount
+
+        Item {
+            id: sector
+            required property int index
+            readonly property var config: index < firstLevel.sections.length ? firstLevel.sections[index] : null
+            readonly property bool offered: config !== null && config.sectionVisible
+            readonly property real startAngle: MarkingMenuGeometry.sectionAngle(index) - 45 + 1.5
+
+            anchors.fill: parent
+
+            Shape {
+                anchors.fill: parent
+                antialiasing: true
+
+                ShapePath {
+                    strokeColor: "transparent"
+                    fillColor: !sector.offered ? UIComponentsConstants.markingMenuSliceEmpty
+                             : firstLevel.selectedSection === sector.index ? UIComponentsConstants.markingMenuSliceHover
+                                                                           : UIComponentsConstants.markingMenuSlice
+
+                    PathAngleArc {
+                        centerX: firstLevel.outerRadius
+                        centerY: firstLevel.outerRadius
+                        radiusX: firstLevel.outerRadius
+                        radiusY: firstLevel.outerRadius
+                        startAngle: sector.startAngle
+                        sweepAngle: 87
+                    }
+                    PathAngleArc {
+                        centerX: firstLevel.outerRadius
+                        centerY: firstLevel.outerRadius
+                        radiusX: firstLevel.deadRadius
+                        radiusY: firstLevel.deadRadius
+                        startAngle: sector.startAngle + 87
+                        sweepAngle: -87
+                        moveToStart: false
+                    }
+                }
+            }
+
+            Image {
+                readonly property var centre: MarkingMenuGeometry.pointAt(
+                                                  MarkingMenuGeometry.sectionAngle(sector.index),
+                                                  (firstLevel.outerRadius + firstLevel.deadRadius) / 2)
+                x: firstLevel.outerRadius + centre.x - width / 2
+                y: firstLevel.outerRadius + centre.y - height / 2
+                width: 16
+                height: 16
+                sourceSize.width: 16
+                sourceSize.height: 16
+                visible: sector.offered && source != ""
+                source: sector.offered ? sector.config.icon : ""
+            }
+        }
+    }
+
+    Rectangle {
+        anchors.centerIn: parent
+        width: firstLevel.deadRadius * 2 - 4
+        height: width
+        radius: width / 2
+        color: UIComponentsConstants.markingMenuCentre
+        border.color: UIComponentsConstants.markingMenuSlice
+        border.width: 1
+    }
+}
