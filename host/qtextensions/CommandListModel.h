@@ -34,6 +34,7 @@ public:
         GroupRole,
         EnabledRole,
     };
+    Q_ENUM(Roles)
 
     explicit CommandListModel(QObject* parent = nullptr);
 
