@@ -4,7 +4,9 @@
 #include "ScreenshotTaker.h"
 
 #include "framework/HostApplication.h"
+#include "framework/ServiceCatalog.h"
 #include "kernel/PathText.h"
+#include "qtextensions/ShellQmlContext.h"
 
 #include <QDir>
 #include <QGuiApplication>
@@ -42,12 +44,14 @@ int main(int argc, char** argv)
 
     const DemoOptions options = DemoOptions::Parse(QGuiApplication::arguments());
     if (!options.valid) {
-        std::fprintf(stderr, "%s\nUsage: QtComponentsDemo [--page NAME] [--hold-marking-menu] [--screenshot FILE [--delay MS]]\n",
+        std::fprintf(stderr,
+                     "%s\nUsage: QtComponentsDemo [--page NAME] [--hold-marking-menu] [--screenshot FILE "
+                     "[--delay MS]]\n",
                      qPrintable(options.error));
         return 2;
     }
 
-    Orvo::Kernel::Framework::HostApplication::Start(
+    const auto services = Orvo::Kernel::Framework::HostApplication::Start(
         Orvo::Kernel::Directories::ToPath(QGuiApplication::applicationDirPath()));
 
     // Declared before the engine, which must be gone before the objects its bindings read.
@@ -56,6 +60,8 @@ int main(int argc, char** argv)
     // The build lays the QML import directory out beside bin/.
     engine.addImportPath(
         QDir(QGuiApplication::applicationDirPath()).absoluteFilePath(QStringLiteral("../qml")));
+    // The shell's context: what panels publish there (the hotkey handler's model) every page sees.
+    services->Get<Orvo::UI::QtExtensions::ShellQmlContext>()->SetContext(engine.rootContext());
     engine.rootContext()->setContextProperty(QStringLiteral("initialPage"), options.page);
     engine.rootContext()->setContextProperty(QStringLiteral("commandActivity"), &commandActivity);
     QObject::connect(

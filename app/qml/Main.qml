@@ -17,7 +17,8 @@ ApplicationWindow {
     // One entry per demo page; each page shows one area of the component library at work.
     readonly property var pages: [
         { name: "overview", lcid: "UI_APP_PAGE_OVERVIEW", source: "OverviewPage.qml" },
-        { name: "markingmenu", lcid: "UI_APP_PAGE_MARKING_MENU", source: "MarkingMenuPage.qml" }
+        { name: "markingmenu", lcid: "UI_APP_PAGE_MARKING_MENU", source: "MarkingMenuPage.qml" },
+        { name: "shortcuts", lcid: "UI_APP_PAGE_SHORTCUTS", source: "ShortcutsPage.qml" }
     ]
 
     function pageIndex(name) {
@@ -26,6 +27,12 @@ ApplicationWindow {
                 return i
         }
         return 0
+    }
+
+    // The application's keyboard shortcuts, active on every page.
+    Loader {
+        objectName: "hotkeyHandler"
+        source: "qrc:/UIComponents/HotkeyHandler/HotkeyHandler.qml"
     }
 
     header: Rectangle {
@@ -96,7 +103,9 @@ ApplicationWindow {
         color: BasicConstants.colors.panelHeader
         Text {
             anchors { left: parent.left; leftMargin: 10; verticalCenter: parent.verticalCenter }
-            text: Strings.text("UI_APP_STATUS_READY")
+            text: commandActivity.runCount > 0
+                  ? Strings.text("UI_APP_STATUS_LAST_COMMAND").arg(commandActivity.lastCommandName).arg(commandActivity.lastOrigin)
+                  : Strings.text("UI_APP_STATUS_READY")
             font.family: BasicConstants.fonts.family
             font.pixelSize: BasicConstants.fonts.small
             color: BasicConstants.colors.textSecondary

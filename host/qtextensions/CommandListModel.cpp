@@ -7,6 +7,8 @@
 #include "framework/EventBus.h"
 #include "framework/IStringLoader.h"
 #include "framework/ServiceCatalog.h"
+#include "kernel/PathText.h"
+#include "qtextensions/File.h"
 
 #include <algorithm>
 
@@ -49,6 +51,8 @@ QVariant CommandListModel::data(const QModelIndex& index, int role) const
         return QString::fromStdWString(command.group);
     case EnabledRole:
         return command.enabled;
+    case IconRole:
+        return File::createQmlFilePathFromApplicationPath(Kernel::Directories::ToPath(command.icon));
     default:
         return {};
     }
@@ -56,10 +60,12 @@ QVariant CommandListModel::data(const QModelIndex& index, int role) const
 
 QHash<int, QByteArray> CommandListModel::roleNames() const
 {
+    // "commandEnabled": a delegate's own "enabled" would hide a role of that name.
     return {
         { UuidRole, "uuid" },         { NameRole, "name" },
         { ShortcutRole, "shortcut" }, { ParameterStringRole, "parameterString" },
-        { GroupRole, "group" },       { EnabledRole, "enabled" },
+        { GroupRole, "group" },       { EnabledRole, "commandEnabled" },
+        { IconRole, "icon" },
     };
 }
 

@@ -33,6 +33,7 @@ public:
         ParameterStringRole,
         GroupRole,
         EnabledRole,
+        IconRole,
     };
     Q_ENUM(Roles)
 

@@ -16,7 +16,7 @@ using Orvo::UI::Events::CommandShortcutChange;
 namespace {
 
 const QByteArray c_commands = R"(<commands>
-  <command uuid="node" name="UI_APP_STATUS_READY" shortcut="Ctrl+Shift+N"/>
+  <command uuid="node" name="UI_APP_STATUS_READY" icon="Images/node.svg" shortcut="Ctrl+Shift+N"/>
   <command uuid="move" name="UI_NO_SUCH_TEXT" group="edit" parameters="mode=drag"/>
   <command uuid="delete" name="UI_COMMAND_DELETE" group="edit" shortcut="Del" enabled="false"/>
 </commands>)";
@@ -81,6 +81,10 @@ void tst_CommandListModel::shouldListTheCommandsInTheRepositoryOrder()
     QCOMPARE(move.data(CommandListModel::ParameterStringRole).toString(), QStringLiteral("mode=drag"));
     QCOMPARE(move.data(CommandListModel::GroupRole).toString(), QStringLiteral("edit"));
     QCOMPARE(m_model->index(2, 0).data(CommandListModel::EnabledRole).toBool(), false);
+    // Icons are image sources in the application directory; no icon is no source.
+    QCOMPARE(m_model->index(0, 0).data(CommandListModel::IconRole).toUrl(),
+             QUrl::fromLocalFile(m_host->FilePath(QStringLiteral("Images/node.svg"))));
+    QCOMPARE(move.data(CommandListModel::IconRole).toString(), QString());
     // Names come from the string table; a name without a text shows its identifier.
     QCOMPARE(m_model->commandName(QStringLiteral("node")), QStringLiteral("Ready"));
     QCOMPARE(m_model->commandName(QStringLiteral("move")), QStringLiteral("UI_NO_SUCH_TEXT"));
