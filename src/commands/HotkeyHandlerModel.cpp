@@ -39,10 +39,8 @@ int HotkeyHandlerModel::rowCount(const QModelIndex& parent) const
 
 QVariant HotkeyHandlerModel::data(const QModelIndex& index, int role) const
 {
-    if (!index.isValid() || index.parent().isValid() || index.column() != 0 || index.row() < 0
-        || index.row() >= rowCount()) {
+    if (!checkIndex(index, CheckIndexOption::IndexIsValid | CheckIndexOption::ParentIsInvalid))
         return {};
-    }
     const bool extraRow = IsExtraRow(index.row());
     const ShortcutEntry& entry = m_shortcuts[static_cast<std::size_t>(extraRow ? m_extraIndex : index.row())];
     switch (role) {
