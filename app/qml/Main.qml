@@ -17,6 +17,7 @@ ApplicationWindow {
     // One entry per demo page; each page shows one area of the component library at work.
     readonly property var pages: [
         { name: "overview", lcid: "UI_APP_PAGE_OVERVIEW", source: "OverviewPage.qml" },
+        { name: "valueentry", lcid: "UI_APP_PAGE_VALUE_ENTRY", source: "ValueEntryPage.qml" },
         { name: "markingmenu", lcid: "UI_APP_PAGE_MARKING_MENU", source: "MarkingMenuPage.qml" },
         { name: "shortcuts", lcid: "UI_APP_PAGE_SHORTCUTS", source: "ShortcutsPage.qml" }
     ]

@@ -151,24 +151,21 @@ std::vector<ShortcutEntry> CommandRepository::GetShortcuts() const
 
 bool CommandRepository::SetCommandEnabled(const std::wstring& uuid, bool enabled)
 {
-    CommandDefinition* command = Find(uuid);
-    if (!command)
-        return false;
-    if (command->enabled != enabled) {
-        command->enabled = enabled;
-        if (auto eventbus = m_eventbus.lock())
-            eventbus->Post(Events::CommandStateChange(uuid));
-    }
-    return true;
+    return SetState(uuid, &CommandDefinition::enabled, enabled);
 }
 
 bool CommandRepository::SetCommandVisible(const std::wstring& uuid, bool visible)
 {
+    return SetState(uuid, &CommandDefinition::visible, visible);
+}
+
+bool CommandRepository::SetState(const std::wstring& uuid, bool CommandDefinition::*state, bool value)
+{
     CommandDefinition* command = Find(uuid);
     if (!command)
         return false;
-    if (command->visible != visible) {
-        command->visible = visible;
+    if (command->*state != value) {
+        command->*state = value;
         if (auto eventbus = m_eventbus.lock())
             eventbus->Post(Events::CommandStateChange(uuid));
     }

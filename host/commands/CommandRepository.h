@@ -53,6 +53,8 @@ public:
 private:
     bool Load(const XMLHandler& document, const std::wstring& source);
     CommandDefinition* Find(const std::wstring& uuid);
+    // Sets one of the boolean states and announces a real change.
+    bool SetState(const std::wstring& uuid, bool CommandDefinition::*state, bool value);
     void AnnounceReload() const;
 
     std::weak_ptr<EventBus> m_eventbus;

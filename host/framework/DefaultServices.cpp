@@ -6,6 +6,7 @@
 #include "IdleEventSource.h"
 #include "ServiceCatalog.h"
 #include "TranslationStringLoader.h"
+#include "basiccomponents/NumberFormatSettings.h"
 #include "commands/CommandRepository.h"
 #include "commands/INeedCommandRepository.h"
 #include "commands/INeedUICommandProcessor.h"
@@ -56,6 +57,8 @@ void DefaultServices::Install(ServiceCatalog& catalog)
 {
     catalog.Register<EventBus>(std::make_shared<EventBus>());
     catalog.Register<IStringLoader>(CreateStringLoader());
+    catalog.Register<UI::BasicComponents::NumberFormatSettings>(
+        std::make_shared<UI::BasicComponents::NumberFormatSettings>());
     catalog.Register<UI::QtExtensions::ComponentConfigurationStore>(
         std::make_shared<UI::QtExtensions::ComponentConfigurationStore>(
             Directories::GetDirectory(Directories::DirectoryType::UserConfigurationDirectory) / "components.json",

@@ -35,7 +35,7 @@ bool CommandMenuHelper::executeCommand(const QString& commandUuid)
 {
     if (!m_processor)
         return false;
-    const auto command = m_repository ? m_repository->FindCommand(commandUuid.toStdWString()) : std::nullopt;
+    const auto command = FindCommand(commandUuid);
     const std::wstring parameterString = command ? command->parameterString : std::wstring();
     return m_processor->ExecuteCommand(commandUuid.toStdWString(), parameterString,
                                        m_componentTrackingID.toStdWString());
@@ -43,26 +43,31 @@ bool CommandMenuHelper::executeCommand(const QString& commandUuid)
 
 bool CommandMenuHelper::isItemEnabled(const QString& commandUuid) const
 {
-    const auto command = m_repository ? m_repository->FindCommand(commandUuid.toStdWString()) : std::nullopt;
+    const auto command = FindCommand(commandUuid);
     return command && command->enabled;
 }
 
 bool CommandMenuHelper::isItemVisible(const QString& commandUuid) const
 {
-    const auto command = m_repository ? m_repository->FindCommand(commandUuid.toStdWString()) : std::nullopt;
+    const auto command = FindCommand(commandUuid);
     return command && command->visible;
 }
 
 QString CommandMenuHelper::getCommandIcon(const QString& commandUuid) const
 {
-    const auto command = m_repository ? m_repository->FindCommand(commandUuid.toStdWString()) : std::nullopt;
+    const auto command = FindCommand(commandUuid);
     return command ? QtExtensions::File::createQmlFilePathFromApplicationPath(command->icon) : QString();
 }
 
 QString CommandMenuHelper::getCommandName(const QString& commandUuid) const
 {
-    const auto command = m_repository ? m_repository->FindCommand(commandUuid.toStdWString()) : std::nullopt;
+    const auto command = FindCommand(commandUuid);
     return command ? QString::fromStdWString(GetWText(command->nameId)) : QString();
+}
+
+std::optional<CommandDefinition> CommandMenuHelper::FindCommand(const QString& commandUuid) const
+{
+    return m_repository ? m_repository->FindCommand(commandUuid.toStdWString()) : std::nullopt;
 }
 
 void CommandMenuHelper::SetEventbus(std::shared_ptr<EventBus> eventbus)

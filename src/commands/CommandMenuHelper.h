@@ -1,5 +1,6 @@
 #pragma once
 
+#include "commands/CommandDefinition.h"
 #include "commands/INeedCommandRepository.h"
 #include "commands/INeedUICommandProcessor.h"
 #include "framework/EventConnection.h"
@@ -7,6 +8,7 @@
 
 #include <QObject>
 #include <QString>
+#include <optional>
 
 namespace Orvo::UI::UIComponents {
 
@@ -50,6 +52,8 @@ signals:
     void commandStateChanged();
 
 private:
+    std::optional<Kernel::Framework::CommandDefinition> FindCommand(const QString& commandUuid) const;
+
     QString m_componentTrackingID;
     std::shared_ptr<Kernel::Framework::EventBus> m_eventbus;
     std::shared_ptr<Kernel::Framework::ICommandRepository> m_repository;

@@ -32,30 +32,43 @@ MarkingMenuSectionConfig& TargetSection(MarkingMenuConfig& config, const std::ws
     return discard;
 }
 
-void RequireMarkingMenuRoot(const pugi::xml_node& root)
-{
-    if (!XMLHandler::HasName(root, Handler::c_marking_menu))
-        throw std::invalid_argument(c_invalidXml);
-}
+using SectionWriter = void (*)(pugi::xml_node&, const MarkingMenuSectionConfig&, const std::wstring&);
 
-std::wstring Save(const XMLHandler& document)
+// A document with the four sections in the format's order, each written by writeSection.
+std::wstring WriteSections(const MarkingMenuConfig& config, SectionWriter writeSection)
 {
+    XMLHandler document;
+    pugi::xml_node root = document.AddRootNode(Handler::c_marking_menu, true);
+    writeSection(root, *config.topSection(), Handler::c_top);
+    writeSection(root, *config.rightSection(), Handler::c_right);
+    writeSection(root, *config.bottomSection(), Handler::c_bottom);
+    writeSection(root, *config.leftSection(), Handler::c_left);
     std::wstring text;
     document.SaveToString(text);
     return text;
+}
+
+// Calls readSection(element, section) for every section element of the marking_menu root, in
+// document order, with the section of config its id names.
+template<class SectionReader>
+void ReadSections(const pugi::xml_node& root, MarkingMenuConfig& config, SectionReader readSection)
+{
+    if (!XMLHandler::HasName(root, Handler::c_marking_menu))
+        throw std::invalid_argument(c_invalidXml);
+    for (const pugi::xml_node& element : root.children()) {
+        if (!XMLHandler::HasName(element, Handler::c_section))
+            continue;
+        MarkingMenuSectionConfig discard;
+        readSection(element,
+                    TargetSection(config, XMLHandler::ReadAttribReq(element, Handler::c_id), discard));
+    }
 }
 
 } // namespace
 
 std::wstring MarkingMenuConfigXmlHandler::ToXml(const MarkingMenuConfig& config)
 {
-    XMLHandler document;
-    pugi::xml_node root = document.AddRootNode(c_marking_menu, true);
-    AddFirstLevelSection(root, *config.topSection(), c_top);
-    AddFirstLevelSection(root, *config.rightSection(), c_right);
-    AddFirstLevelSection(root, *config.bottomSection(), c_bottom);
-    AddFirstLevelSection(root, *config.leftSection(), c_left);
-    return Save(document);
+    return WriteSections(config, &AddFirstLevelSection);
 }
 
 std::unique_ptr<MarkingMenuConfig> MarkingMenuConfigXmlHandler::FromXml(const std::wstring& xml)
@@ -68,59 +81,41 @@ std::unique_ptr<MarkingMenuConfig> MarkingMenuConfigXmlHandler::FromXml(const st
 std::unique_ptr<MarkingMenuConfig> MarkingMenuConfigXmlHandler::FromXml(const XMLHandler& document)
 {
     auto config = std::make_unique<MarkingMenuConfig>();
-    const pugi::xml_node root = document.RootNode();
-    RequireMarkingMenuRoot(root);
-    for (const pugi::xml_node& element : root.children()) {
-        if (!XMLHandler::HasName(element, c_section))
-            continue;
-        MarkingMenuSectionConfig discard;
-        MarkingMenuSectionConfig& section
-            = TargetSection(*config, XMLHandler::ReadAttribReq(element, c_id), discard);
-        section.m_label = QString::fromStdWString(XMLHandler::ReadAttribReq(element, c_label));
-        section.m_lcid = QString::fromStdWString(XMLHandler::ReadAttribReq(element, c_lcid));
-        // An absolute icon path is kept; an empty one stays empty ("no icon").
-        section.m_icon = QtExtensions::File::createQmlFilePathFromApplicationPath(
-            XMLHandler::ReadAttribReq(element, c_icon));
-    }
+    ReadSections(document.RootNode(), *config,
+                 [](const pugi::xml_node& element, MarkingMenuSectionConfig& section) {
+                     section.m_label = QString::fromStdWString(XMLHandler::ReadAttribReq(element, c_label));
+                     section.m_lcid = QString::fromStdWString(XMLHandler::ReadAttribReq(element, c_lcid));
+                     // An absolute icon path is kept; an empty one stays empty ("no icon").
+                     section.m_icon = QtExtensions::File::createQmlFilePathFromApplicationPath(
+                         XMLHandler::ReadAttribReq(element, c_icon));
+                 });
     return config;
 }
 
 std::wstring MarkingMenuConfigXmlHandler::UserConfigToXml(const MarkingMenuConfig& config)
 {
-    XMLHandler document;
-    pugi::xml_node root = document.AddRootNode(c_marking_menu, true);
-    AddFirstLevelUserConfig(root, *config.topSection(), c_top);
-    AddFirstLevelUserConfig(root, *config.rightSection(), c_right);
-    AddFirstLevelUserConfig(root, *config.bottomSection(), c_bottom);
-    AddFirstLevelUserConfig(root, *config.leftSection(), c_left);
-    return Save(document);
+    return WriteSections(config, &AddFirstLevelUserConfig);
 }
 
 void MarkingMenuConfigXmlHandler::FromUserConfigXml(MarkingMenuConfig& config, const std::wstring& xml)
 {
     XMLHandler document;
     document.LoadString(xml);
-    const pugi::xml_node root = document.RootNode();
-    RequireMarkingMenuRoot(root);
-    for (const pugi::xml_node& element : root.children()) {
-        if (!XMLHandler::HasName(element, c_section))
-            continue;
-        MarkingMenuSectionConfig discard;
-        MarkingMenuSectionConfig& section
-            = TargetSection(config, XMLHandler::ReadAttribReq(element, c_id), discard);
-        section.m_sectionVisible = XMLHandler::ReadAttribBoolReq(element, c_visible);
-        for (QString& uuid : section.m_commandUuids)
-            uuid.clear();
-        for (const pugi::xml_node& tool : element.children()) {
-            if (!XMLHandler::HasName(tool, c_tool))
-                continue;
-            const qint64 index = static_cast<qint64>(XMLHandler::ReadAttribIntReq(tool, c_slice)) - 1;
-            const std::wstring uuid = XMLHandler::ReadAttribReq(tool, c_uuid);
-            if (index < 0 || index >= section.m_commandUuids.size())
-                continue; // a slice the menu does not have
-            section.m_commandUuids[static_cast<qsizetype>(index)] = QString::fromStdWString(uuid);
-        }
-    }
+    ReadSections(
+        document.RootNode(), config, [](const pugi::xml_node& element, MarkingMenuSectionConfig& section) {
+            section.m_sectionVisible = XMLHandler::ReadAttribBoolReq(element, c_visible);
+            for (QString& uuid : section.m_commandUuids)
+                uuid.clear();
+            for (const pugi::xml_node& tool : element.children()) {
+                if (!XMLHandler::HasName(tool, c_tool))
+                    continue;
+                const qint64 index = static_cast<qint64>(XMLHandler::ReadAttribIntReq(tool, c_slice)) - 1;
+                const std::wstring uuid = XMLHandler::ReadAttribReq(tool, c_uuid);
+                if (index < 0 || index >= section.m_commandUuids.size())
+                    continue; // a slice the menu does not have
+                section.m_commandUuids[static_cast<qsizetype>(index)] = QString::fromStdWString(uuid);
+            }
+        });
 }
 
 void MarkingMenuConfigXmlHandler::AddFirstLevelSection(pugi::xml_node& root,

@@ -7,6 +7,9 @@
 #include "markingmenu/MarkingMenuConfig.h"
 #include "markingmenu/MarkingMenuSectionConfig.h"
 #include "qtextensions/FramelessWindow.h"
+#include "valueentry/InlineCalculator.h"
+#include "valueentry/IntegerValidator.h"
+#include "valueentry/RealValidator.h"
 
 #include <QQmlEngine>
 
@@ -30,6 +33,9 @@ void RegisterQtComponentsTypes(const char* uri)
     // The order below is the module's registration order; keep new rows in their place.
     qmlRegisterType<HotkeyHandler>(uri, major, minor, "HotkeyHandler_Cpp");
     qmlRegisterType<CommandMenuHelper>(uri, major, minor, "CommandMenuHelper");
+    qmlRegisterType<IntegerValidator>(uri, major, minor, "IntegerValidator");
+    qmlRegisterType<RealValidator>(uri, major, minor, "RealValidator");
+    qmlRegisterType<InlineCalculator>(uri, major, minor, "InlineCalculator");
     qmlRegisterType<MarkingMenuSectionConfig>(uri, major, minor, "MarkingMenuSectionConfig");
     qmlRegisterType<MarkingMenuConfig>(uri, major, minor, "MarkingMenuConfig");
     qmlRegisterType<MarkingMenu>(uri, major, minor, "MarkingMenu_Cpp");

@@ -28,4 +28,6 @@ QtObject {
     readonly property int propertiesIndent: 14
     readonly property int markingMenuSize: 700
     readonly property int markingMenuTimeout: 20000
+    // Decimals offered by numeric inputs that accept expressions.
+    readonly property int calculatorDecimals: 4
 }

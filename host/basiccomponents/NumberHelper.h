@@ -1,0 +1,45 @@
+#pragma once
+
+#include "HostKitExport.h"
+
+#include <QLocale>
+#include <QObject>
+#include <QString>
+
+namespace Orvo::UI::BasicComponents {
+
+// Writes doubles the way the user edits them and reads such text back. A new helper takes the
+// locale and the edit decimals from the host's NumberFormatSettings; both can be changed per helper.
+class HOSTKIT_EXPORT NumberHelper : public QObject
+{
+    Q_OBJECT
+    Q_PROPERTY(int decimals READ decimals WRITE setDecimals NOTIFY decimalsChanged)
+
+public:
+    explicit NumberHelper(QObject* parent = nullptr);
+
+    int decimals() const { return m_decimals; }
+    void setDecimals(int decimals);
+    QLocale locale() const { return m_locale; }
+    void setLocale(const QLocale& locale);
+
+    // The edit text of value: the locale's decimal mark, no group separators, at most decimals()
+    // decimals with trailing zeros removed ("2.5", not "2.500000"; "3", not "3."). Negative zero
+    // is written "0". A value that is not finite has no edit text: the result is empty.
+    Q_INVOKABLE QString toEditValue(double value) const;
+
+    // The inverse of toEditValue: the number written in text in the helper's locale, or else in
+    // the C locale (so "1.5" is read also where the decimal mark is a comma). Blanks around the
+    // number are ignored; group separators, non-finite values and anything else make it fail,
+    // with *ok false and 0 returned.
+    double fromEditValue(const QString& text, bool* ok = nullptr) const;
+
+signals:
+    void decimalsChanged();
+
+private:
+    int m_decimals;
+    QLocale m_locale;
+};
+
+} // namespace Orvo::UI::BasicComponents

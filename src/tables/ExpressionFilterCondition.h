@@ -1,0 +1,42 @@
+#pragma once
+
+#include "FilterConditionBase.h"
+
+#include <QString>
+#include <cstdint>
+#include <optional>
+#include <string>
+
+namespace Orvo::UI::UIComponents {
+
+struct ComparedText;
+
+// A filter text such as "<=5" or "<>abc": the cell's text compared with one operand.
+class ExpressionFilterCondition : public FilterConditionBase
+{
+public:
+    enum class Comparer : std::int32_t
+    {
+        Less = 0,
+        LessOrEqual = 1,
+        Equal = 2,
+        NotEqual = 3,
+        GreaterOrEqual = 4,
+        Greater = 5,
+    };
+
+    ExpressionFilterCondition(QString const& operand, Comparer comparer);
+
+    bool Evaluate(TableCellContent const& cell) const override;
+
+private:
+    bool Equal(ComparedText const& a, ComparedText const& b, int precision) const;
+    bool IsLess(ComparedText const& a, ComparedText const& b, int precision) const;
+    bool IsLessOrEqual(ComparedText const& a, ComparedText const& b, int precision) const;
+
+    std::wstring m_operand;
+    std::optional<double> m_operandNumber; // read once rather than for every cell
+    Comparer m_comparer;
+};
+
+} // namespace Orvo::UI::UIComponents

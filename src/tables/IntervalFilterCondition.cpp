@@ -1,0 +1,51 @@
+#include "IntervalFilterCondition.h"
+
+#include "FilterCellText.h"
+#include "FilterComparison.h"
+#include "UnicodeStripped.h"
+
+#include <utility>
+
+namespace Orvo::UI::UIComponents {
+
+namespace {
+
+constexpr int c_noPrecision = -1;
+
+} // namespace
+
+IntervalFilterCondition::IntervalFilterCondition(ValueLimit lower, ValueLimit upper)
+    : m_lower(UnicodeStripped(lower.value).toStdWString())
+    , m_upper(UnicodeStripped(upper.value).toStdWString())
+    , m_lowerInclusive(lower.inclusive)
+    , m_upperInclusive(upper.inclusive)
+{
+    // Bounds typed the wrong way round are put in order, but each keeps the bracket it was typed
+    // with: "[5;1)" is the range from 1 exclusive to 5 inclusive. Users' saved filters rely on it.
+    m_lowerNumber = ComparedText::Read(m_lower).number;
+    m_upperNumber = ComparedText::Read(m_upper).number;
+    if (!FilterComparison::IsLess({ m_lower, m_lowerNumber }, { m_upper, m_upperNumber }, c_noPrecision)) {
+        std::swap(m_lower, m_upper);
+        std::swap(m_lowerNumber, m_upperNumber);
+        std::swap(m_lowerInclusive, m_upperInclusive);
+    }
+}
+
+bool IntervalFilterCondition::Evaluate(TableCellContent const& cell) const
+{
+    thread_local std::wstring cellText;
+    FilterCellText::WriteComparisonText(cell, cellText);
+    const ComparedText cellSide = ComparedText::Read(cellText);
+    const ComparedText lower { m_lower, m_lowerNumber };
+    const ComparedText upper { m_upper, m_upperNumber };
+    const int precision = FilterCellText::Precision(cell);
+
+    const bool aboveLower = m_lowerInclusive ? FilterComparison::IsLessOrEqual(lower, cellSide, precision)
+                                             : FilterComparison::IsLess(lower, cellSide, precision);
+    if (!aboveLower)
+        return false;
+    return m_upperInclusive ? FilterComparison::IsLessOrEqual(cellSide, upper, precision)
+                            : FilterComparison::IsLess(cellSide, upper, precision);
+}
+
+} // namespace Orvo::UI::UIComponents
