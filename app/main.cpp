@@ -1,17 +1,21 @@
 #include "CommandActivity.h"
 #include "DemoOptions.h"
 #include "MarkingMenuGesture.h"
+#include "SampleObjectsModel.h"
 #include "ScreenshotTaker.h"
 
 #include "framework/HostApplication.h"
 #include "framework/ServiceCatalog.h"
 #include "kernel/PathText.h"
+#include "properties/SampleStructure.h"
+#include "properties/StructuralModel.h"
 #include "qtextensions/ShellQmlContext.h"
 
 #include <QDir>
 #include <QGuiApplication>
 #include <QQmlApplicationEngine>
 #include <QQmlContext>
+#include <QQmlEngine>
 #include <QQuickStyle>
 #include <QQuickWindow>
 #include <cstdio>
@@ -51,8 +55,12 @@ int main(int argc, char** argv)
         return 2;
     }
 
-    const auto services = Orvo::Kernel::Framework::HostApplication::Start(
+    auto services = Orvo::Kernel::Framework::HostApplication::Start(
         Orvo::Kernel::Directories::ToPath(QGuiApplication::applicationDirPath()));
+    // The demo's model: a small frame whose objects the pages select and edit.
+    Orvo::Kernel::Framework::SampleStructure::Fill(
+        *services->Get<Orvo::Kernel::Framework::StructuralModel>());
+    qmlRegisterType<SampleObjectsModel>("Demo", 1, 0, "SampleObjectsModel");
 
     // Declared before the engine, which must be gone before the objects its bindings read.
     CommandActivity commandActivity;

@@ -19,6 +19,350 @@
         <source>Components</source>
         <translation>Tables, numeric inputs, the marking menu, the properties panel and keyboard shortcuts of the structural model.</translation>
     </message>
+    <message id="UI_CHOICE_ACTION_IMPOSED">
+        <source>Imposed</source>
+        <translation>Imposed</translation>
+    </message>
+    <message id="UI_CHOICE_ACTION_PERMANENT">
+        <source>Permanent</source>
+        <translation>Permanent</translation>
+    </message>
+    <message id="UI_CHOICE_ACTION_SNOW">
+        <source>Snow</source>
+        <translation>Snow</translation>
+    </message>
+    <message id="UI_CHOICE_ACTION_WIND">
+        <source>Wind</source>
+        <translation>Wind</translation>
+    </message>
+    <message id="UI_CHOICE_GLOBAL">
+        <source>Global</source>
+        <translation>Global</translation>
+    </message>
+    <message id="UI_CHOICE_LOCAL">
+        <source>Local</source>
+        <translation>Local</translation>
+    </message>
+    <message id="UI_CHOICE_MATERIAL_C30">
+        <source>C30/37</source>
+        <translation>C30/37</translation>
+    </message>
+    <message id="UI_CHOICE_MATERIAL_GL24H">
+        <source>GL24h</source>
+        <translation>GL24h</translation>
+    </message>
+    <message id="UI_CHOICE_MATERIAL_S235">
+        <source>S235</source>
+        <translation>S235</translation>
+    </message>
+    <message id="UI_CHOICE_MATERIAL_S275">
+        <source>S275</source>
+        <translation>S275</translation>
+    </message>
+    <message id="UI_CHOICE_MATERIAL_S355">
+        <source>S355</source>
+        <translation>S355</translation>
+    </message>
+    <message id="UI_CHOICE_MATERIAL_S460">
+        <source>S460</source>
+        <translation>S460</translation>
+    </message>
+    <message id="UI_CHOICE_SECTION_CIRCLE">
+        <source>Circle</source>
+        <translation>Circle</translation>
+    </message>
+    <message id="UI_CHOICE_SECTION_I">
+        <source>I-section</source>
+        <translation>I-section</translation>
+    </message>
+    <message id="UI_CHOICE_SECTION_RECTANGLE">
+        <source>Rectangle</source>
+        <translation>Rectangle</translation>
+    </message>
+    <message id="UI_CHOICE_SUPPORT_FIXED">
+        <source>Fixed</source>
+        <translation>Fixed</translation>
+    </message>
+    <message id="UI_CHOICE_SUPPORT_FREE">
+        <source>Free</source>
+        <translation>Free</translation>
+    </message>
+    <message id="UI_CHOICE_SUPPORT_PINNED">
+        <source>Pinned</source>
+        <translation>Pinned</translation>
+    </message>
+    <message id="UI_CHOICE_SUPPORT_ROLLER">
+        <source>Roller</source>
+        <translation>Roller</translation>
+    </message>
+    <message id="UI_OBJECT_LOAD_CASE">
+        <source>Load case</source>
+        <translation>Load case</translation>
+    </message>
+    <message id="UI_OBJECT_LOAD_CASES">
+        <source>Load cases</source>
+        <translation>Load cases</translation>
+    </message>
+    <message id="UI_OBJECT_MEMBER">
+        <source>Member</source>
+        <translation>Member</translation>
+    </message>
+    <message id="UI_OBJECT_MEMBERS">
+        <source>Members</source>
+        <translation>Members</translation>
+    </message>
+    <message id="UI_OBJECT_NODE">
+        <source>Node</source>
+        <translation>Node</translation>
+    </message>
+    <message id="UI_OBJECT_NODES">
+        <source>Nodes</source>
+        <translation>Nodes</translation>
+    </message>
+    <message id="UI_PARAMETER_FAVOURABLE">
+        <source>Favourable</source>
+        <translation>Favourable</translation>
+    </message>
+    <message id="UI_PARAMETER_PERMANENT">
+        <source>Permanent</source>
+        <translation>Permanent</translation>
+    </message>
+    <message id="UI_PARAMETER_VARIABLE">
+        <source>Variable</source>
+        <translation>Variable</translation>
+    </message>
+    <message id="UI_PROPERTIES_ACTION_PLACE_ON_GROUND">
+        <source>Place on ground</source>
+        <translation>Place on ground</translation>
+    </message>
+    <message id="UI_PROPERTIES_ACTION_RESET_DEFAULTS">
+        <source>Reset to defaults</source>
+        <translation>Reset to defaults</translation>
+    </message>
+    <message id="UI_PROPERTIES_ACTION_REVERSE_MEMBER">
+        <source>Reverse direction</source>
+        <translation>Reverse direction</translation>
+    </message>
+    <message id="UI_PROPERTIES_CATEGORY_ANALYSIS">
+        <source>Analysis</source>
+        <translation>Analysis</translation>
+    </message>
+    <message id="UI_PROPERTIES_CATEGORY_CROSS_SECTION">
+        <source>Cross-section</source>
+        <translation>Cross-section</translation>
+    </message>
+    <message id="UI_PROPERTIES_CATEGORY_DISPLAY">
+        <source>Display</source>
+        <translation>Display</translation>
+    </message>
+    <message id="UI_PROPERTIES_CATEGORY_GENERAL">
+        <source>General</source>
+        <translation>General</translation>
+    </message>
+    <message id="UI_PROPERTIES_CATEGORY_GEOMETRY">
+        <source>Geometry</source>
+        <translation>Geometry</translation>
+    </message>
+    <message id="UI_PROPERTIES_CATEGORY_MATERIAL">
+        <source>Material</source>
+        <translation>Material</translation>
+    </message>
+    <message id="UI_PROPERTIES_CATEGORY_RELEASES">
+        <source>Releases</source>
+        <translation>Releases</translation>
+    </message>
+    <message id="UI_PROPERTIES_CATEGORY_SUPPORT">
+        <source>Support</source>
+        <translation>Support</translation>
+    </message>
+    <message id="UI_PROPERTIES_ENTITY_ALL">
+        <source>All objects</source>
+        <translation>All objects</translation>
+    </message>
+    <message id="UI_PROPERTIES_NO_SELECTION">
+        <source>No selection</source>
+        <translation>No selection</translation>
+    </message>
+    <message id="UI_PROPERTIES_SUB_COORDINATES">
+        <source>Coordinates</source>
+        <translation>Coordinates</translation>
+    </message>
+    <message id="UI_PROPERTIES_SUB_DIMENSIONS">
+        <source>Dimensions</source>
+        <translation>Dimensions</translation>
+    </message>
+    <message id="UI_PROPERTIES_SUB_NODES">
+        <source>Nodes</source>
+        <translation>Nodes</translation>
+    </message>
+    <message id="UI_PROPERTIES_SUB_PLATES">
+        <source>Plates</source>
+        <translation>Plates</translation>
+    </message>
+    <message id="UI_PROPERTIES_SUB_ROTATIONAL_SPRINGS">
+        <source>Rotational springs</source>
+        <translation>Rotational springs</translation>
+    </message>
+    <message id="UI_PROPERTIES_SUB_SELF_WEIGHT">
+        <source>Self-weight</source>
+        <translation>Self-weight</translation>
+    </message>
+    <message id="UI_PROPERTIES_SUB_SPRINGS">
+        <source>Springs</source>
+        <translation>Springs</translation>
+    </message>
+    <message id="UI_PROPERTIES_TITLE_MANY">
+        <source>%1 objects selected</source>
+        <translation>%1 objects selected</translation>
+    </message>
+    <message id="UI_PROPERTIES_TITLE_ONE">
+        <source>%1 %2</source>
+        <translation>%1 %2</translation>
+    </message>
+    <message id="UI_PROP_ACTION_CATEGORY">
+        <source>Action category</source>
+        <translation>Action category</translation>
+    </message>
+    <message id="UI_PROP_ACTIVE">
+        <source>Active in analysis</source>
+        <translation>Active in analysis</translation>
+    </message>
+    <message id="UI_PROP_COLOR">
+        <source>Colour</source>
+        <translation>Colour</translation>
+    </message>
+    <message id="UI_PROP_COMMENT">
+        <source>Comment</source>
+        <translation>Comment</translation>
+    </message>
+    <message id="UI_PROP_COORDINATE_SYSTEM">
+        <source>Coordinate system</source>
+        <translation>Coordinate system</translation>
+    </message>
+    <message id="UI_PROP_ELASTIC_MODULUS">
+        <source>Elastic modulus E</source>
+        <translation>Elastic modulus E</translation>
+    </message>
+    <message id="UI_PROP_END_NODE">
+        <source>End node</source>
+        <translation>End node</translation>
+    </message>
+    <message id="UI_PROP_FACTOR_X">
+        <source>Factor in X</source>
+        <translation>Factor in X</translation>
+    </message>
+    <message id="UI_PROP_FACTOR_Y">
+        <source>Factor in Y</source>
+        <translation>Factor in Y</translation>
+    </message>
+    <message id="UI_PROP_FACTOR_Z">
+        <source>Factor in Z</source>
+        <translation>Factor in Z</translation>
+    </message>
+    <message id="UI_PROP_FLANGE_THICKNESS">
+        <source>Flange thickness t&lt;sub&gt;f&lt;/sub&gt;</source>
+        <translation>Flange thickness t&lt;sub&gt;f&lt;/sub&gt;</translation>
+    </message>
+    <message id="UI_PROP_HEIGHT">
+        <source>Height h</source>
+        <translation>Height h</translation>
+    </message>
+    <message id="UI_PROP_HINGE_END">
+        <source>Hinge at end</source>
+        <translation>Hinge at end</translation>
+    </message>
+    <message id="UI_PROP_HINGE_START">
+        <source>Hinge at start</source>
+        <translation>Hinge at start</translation>
+    </message>
+    <message id="UI_PROP_MATERIAL">
+        <source>Material</source>
+        <translation>Material</translation>
+    </message>
+    <message id="UI_PROP_NAME">
+        <source>Name</source>
+        <translation>Name</translation>
+    </message>
+    <message id="UI_PROP_NUMBER">
+        <source>Number</source>
+        <translation>Number</translation>
+    </message>
+    <message id="UI_PROP_PARTIAL_FACTOR">
+        <source>Partial factor γ&lt;sub&gt;F&lt;/sub&gt;</source>
+        <translation>Partial factor γ&lt;sub&gt;F&lt;/sub&gt;</translation>
+    </message>
+    <message id="UI_PROP_ROTATION">
+        <source>Rotation β</source>
+        <translation>Rotation β</translation>
+    </message>
+    <message id="UI_PROP_SECTION_SHAPE">
+        <source>Shape</source>
+        <translation>Shape</translation>
+    </message>
+    <message id="UI_PROP_SELF_WEIGHT">
+        <source>Include self-weight</source>
+        <translation>Include self-weight</translation>
+    </message>
+    <message id="UI_PROP_SHOW_LABEL">
+        <source>Show label</source>
+        <translation>Show label</translation>
+    </message>
+    <message id="UI_PROP_SPRING_ROT_X">
+        <source>Spring k&lt;sub&gt;φx&lt;/sub&gt;</source>
+        <translation>Spring k&lt;sub&gt;φx&lt;/sub&gt;</translation>
+    </message>
+    <message id="UI_PROP_SPRING_ROT_Y">
+        <source>Spring k&lt;sub&gt;φy&lt;/sub&gt;</source>
+        <translation>Spring k&lt;sub&gt;φy&lt;/sub&gt;</translation>
+    </message>
+    <message id="UI_PROP_SPRING_ROT_Z">
+        <source>Spring k&lt;sub&gt;φz&lt;/sub&gt;</source>
+        <translation>Spring k&lt;sub&gt;φz&lt;/sub&gt;</translation>
+    </message>
+    <message id="UI_PROP_SPRING_X">
+        <source>Spring k&lt;sub&gt;x&lt;/sub&gt;</source>
+        <translation>Spring k&lt;sub&gt;x&lt;/sub&gt;</translation>
+    </message>
+    <message id="UI_PROP_SPRING_Y">
+        <source>Spring k&lt;sub&gt;y&lt;/sub&gt;</source>
+        <translation>Spring k&lt;sub&gt;y&lt;/sub&gt;</translation>
+    </message>
+    <message id="UI_PROP_SPRING_Z">
+        <source>Spring k&lt;sub&gt;z&lt;/sub&gt;</source>
+        <translation>Spring k&lt;sub&gt;z&lt;/sub&gt;</translation>
+    </message>
+    <message id="UI_PROP_START_NODE">
+        <source>Start node</source>
+        <translation>Start node</translation>
+    </message>
+    <message id="UI_PROP_SUPPORT_TYPE">
+        <source>Support type</source>
+        <translation>Support type</translation>
+    </message>
+    <message id="UI_PROP_WEB_THICKNESS">
+        <source>Web thickness t&lt;sub&gt;w&lt;/sub&gt;</source>
+        <translation>Web thickness t&lt;sub&gt;w&lt;/sub&gt;</translation>
+    </message>
+    <message id="UI_PROP_WIDTH">
+        <source>Width b</source>
+        <translation>Width b</translation>
+    </message>
+    <message id="UI_PROP_X">
+        <source>X</source>
+        <translation>X</translation>
+    </message>
+    <message id="UI_PROP_Y">
+        <source>Y</source>
+        <translation>Y</translation>
+    </message>
+    <message id="UI_PROP_YIELD_STRENGTH">
+        <source>Yield strength f&lt;sub&gt;y&lt;/sub&gt;</source>
+        <translation>Yield strength f&lt;sub&gt;y&lt;/sub&gt;</translation>
+    </message>
+    <message id="UI_PROP_Z">
+        <source>Z</source>
+        <translation>Z</translation>
+    </message>
     <message id="UI_INLINE_CALC_ERROR">
         <source>Invalid expression</source>
         <translation>Invalid expression</translation>
@@ -40,8 +384,8 @@
         <translation>Numeric inputs</translation>
     </message>
     <message id="UI_VALUE_ENTRY_HINT">
-        <source>Type a number, or start with "=" to type an expression: =2*500mm, =sin(30deg), =max(1,5; 2). Units are converted to SI base units.</source>
-        <translation>Type a number, or start with "=" to type an expression: =2*500mm, =sin(30deg), =max(1,5; 2). Units are converted to SI base units.</translation>
+        <source>Type a number, or start with "=" to type an expression: =2*500mm, =sin(30deg), =max(1,5; 2). An expression with units is converted to the unit of its field: =30cm in a field in m gives 0.3, =45deg in a field in degrees gives 45.</source>
+        <translation>Type a number, or start with "=" to type an expression: =2*500mm, =sin(30deg), =max(1,5; 2). An expression with units is converted to the unit of its field: =30cm in a field in m gives 0.3, =45deg in a field in degrees gives 45.</translation>
     </message>
     <message id="UI_VALUE_ENTRY_LENGTH">
         <source>Span length</source>
@@ -74,6 +418,102 @@
     <message id="UI_VALUE_ENTRY_EXAMPLES">
         <source>Expressions evaluated by the calculator</source>
         <translation>Expressions evaluated by the calculator</translation>
+    </message>
+    <message id="UI_PROPERTIES_MIXED">
+        <source>Mixed</source>
+        <translation>Mixed</translation>
+    </message>
+    <message id="UI_PROPERTIES_MIXED_VALUES">
+        <source>%1 different values</source>
+        <translation>%1 different values</translation>
+    </message>
+    <message id="UI_PROPERTIES_RESET_TO_DEFAULT">
+        <source>Reset to default</source>
+        <translation>Reset to default</translation>
+    </message>
+    <message id="UI_PROPERTIES_YES">
+        <source>Yes</source>
+        <translation>Yes</translation>
+    </message>
+    <message id="UI_PROPERTIES_NO">
+        <source>No</source>
+        <translation>No</translation>
+    </message>
+    <message id="UI_PROPERTIES_EMPTY_TEXT">
+        <source>(empty)</source>
+        <translation>(empty)</translation>
+    </message>
+    <message id="UI_PROPERTIES_BASIC">
+        <source>Basic</source>
+        <translation>Basic</translation>
+    </message>
+    <message id="UI_PROPERTIES_ADVANCED">
+        <source>Advanced</source>
+        <translation>Advanced</translation>
+    </message>
+    <message id="UI_PROPERTIES_EXPAND_ALL">
+        <source>Expand all</source>
+        <translation>Expand all</translation>
+    </message>
+    <message id="UI_PROPERTIES_ILLUSTRATIONS">
+        <source>Illustrations</source>
+        <translation>Illustrations</translation>
+    </message>
+    <message id="UI_PROPERTIES_EMPTY">
+        <source>Select objects to see and edit their properties.</source>
+        <translation>Select objects to see and edit their properties.</translation>
+    </message>
+    <message id="UI_PROPERTIES_NOTHING_IN_BASIC_MODE">
+        <source>The selected objects have no basic property in common. Switch to Advanced to see all of them.</source>
+        <translation>The selected objects have no basic property in common. Switch to Advanced to see all of them.</translation>
+    </message>
+    <message id="UI_DEMO_NODE_SUMMARY">
+        <source>(%1; %2; %3) m  ·  %4</source>
+        <translation>(%1; %2; %3) m  ·  %4</translation>
+    </message>
+    <message id="UI_DEMO_MEMBER_SUMMARY">
+        <source>%1 → %2  ·  %3 %4 × %5 mm  ·  %6</source>
+        <translation>%1 → %2  ·  %3 %4 × %5 mm  ·  %6</translation>
+    </message>
+    <message id="UI_DEMO_LOAD_CASE_SUMMARY">
+        <source>%1  ·  γF %2  ·  self-weight %3</source>
+        <translation>%1  ·  γF %2  ·  self-weight %3</translation>
+    </message>
+    <message id="UI_APP_PAGE_PROPERTIES">
+        <source>Properties</source>
+        <translation>Properties</translation>
+    </message>
+    <message id="UI_DEMO_OBJECTS">
+        <source>Structural model</source>
+        <translation>Structural model</translation>
+    </message>
+    <message id="UI_DEMO_OBJECTS_HINT">
+        <source>Click an object to select it, Ctrl-click to add or remove one, Shift-click for a range. The panel edits every selected object at once; the list shows their values change.</source>
+        <translation>Click an object to select it, Ctrl-click to add or remove one, Shift-click for a range. The panel edits every selected object at once; the list shows their values change.</translation>
+    </message>
+    <message id="UI_DEMO_SELECT_NODES">
+        <source>Nodes</source>
+        <translation>Nodes</translation>
+    </message>
+    <message id="UI_DEMO_SELECT_MEMBERS">
+        <source>Members</source>
+        <translation>Members</translation>
+    </message>
+    <message id="UI_DEMO_SELECT_LOAD_CASES">
+        <source>Load cases</source>
+        <translation>Load cases</translation>
+    </message>
+    <message id="UI_DEMO_SELECT_ALL">
+        <source>All</source>
+        <translation>All</translation>
+    </message>
+    <message id="UI_DEMO_SELECT_NONE">
+        <source>None</source>
+        <translation>None</translation>
+    </message>
+    <message id="UI_DEMO_SELECT">
+        <source>Select:</source>
+        <translation>Select:</translation>
     </message>
     <message id="UI_APP_PAGE_MARKING_MENU">
         <source>Marking menu</source>

@@ -19,6 +19,7 @@ ApplicationWindow {
         { name: "overview", lcid: "UI_APP_PAGE_OVERVIEW", source: "OverviewPage.qml" },
         { name: "valueentry", lcid: "UI_APP_PAGE_VALUE_ENTRY", source: "ValueEntryPage.qml" },
         { name: "markingmenu", lcid: "UI_APP_PAGE_MARKING_MENU", source: "MarkingMenuPage.qml" },
+        { name: "properties", lcid: "UI_APP_PAGE_PROPERTIES", source: "PropertiesPage.qml" },
         { name: "shortcuts", lcid: "UI_APP_PAGE_SHORTCUTS", source: "ShortcutsPage.qml" }
     ]
 

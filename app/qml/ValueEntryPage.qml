@@ -62,12 +62,12 @@ Item {
                         id: angleInput
                         Layout.preferredWidth: 220
                         unitMinimumWidth: 28
-                        unit: "rad"
-                        minimum: -2 * Math.PI
-                        maximum: 2 * Math.PI
-                        value: 0.5236
+                        unit: "\u00B0"
+                        minimum: -360
+                        maximum: 360
+                        value: 30
                     }
-                    Caption { text: Strings.text("UI_VALUE_ENTRY_STORED") + ": " + page.stored(angleInput.value, "rad") }
+                    Caption { text: Strings.text("UI_VALUE_ENTRY_STORED") + ": " + page.stored(angleInput.value, "\u00B0") }
 
                     Caption { text: Strings.text("UI_VALUE_ENTRY_COUNT") }
                     NumericInput {

@@ -12,6 +12,8 @@
 #include "commands/INeedUICommandProcessor.h"
 #include "commands/UICommandProcessor.h"
 #include "kernel/Directories.h"
+#include "properties/StructuralModel.h"
+#include "properties/StructuralObjectTypes.h"
 #include "qtextensions/ComponentConfigurationStore.h"
 #include "qtextensions/MessageBoxService.h"
 #include "qtextensions/ShellQmlContext.h"
@@ -55,7 +57,8 @@ std::shared_ptr<CommandRepository> CreateCommandRepository(const std::shared_ptr
 
 void DefaultServices::Install(ServiceCatalog& catalog)
 {
-    catalog.Register<EventBus>(std::make_shared<EventBus>());
+    auto eventBus = std::make_shared<EventBus>();
+    catalog.Register<EventBus>(eventBus);
     catalog.Register<IStringLoader>(CreateStringLoader());
     catalog.Register<UI::BasicComponents::NumberFormatSettings>(
         std::make_shared<UI::BasicComponents::NumberFormatSettings>());
@@ -64,6 +67,10 @@ void DefaultServices::Install(ServiceCatalog& catalog)
             Directories::GetDirectory(Directories::DirectoryType::UserConfigurationDirectory) / "components.json",
             Directories::GetDirectory(Directories::DirectoryType::ApplicationDirectory) / "Configuration"
                 / "DefaultUserConfiguration"));
+    // The structural model starts empty; a host loads its objects into it.
+    auto structuralModel = std::make_shared<StructuralModel>(eventBus);
+    StructuralObjectTypes::RegisterAll(*structuralModel);
+    catalog.Register<StructuralModel>(structuralModel);
     catalog.Register<IdleEventSource>(std::make_shared<IdleEventSource>(catalog.Get<EventBus>()));
     auto commandRepository = CreateCommandRepository(catalog.Get<EventBus>());
     catalog.Register<ICommandRepository>(commandRepository);

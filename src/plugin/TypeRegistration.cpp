@@ -6,6 +6,13 @@
 #include "markingmenu/MarkingMenu.h"
 #include "markingmenu/MarkingMenuConfig.h"
 #include "markingmenu/MarkingMenuSectionConfig.h"
+#include "properties/ActionsModel.h"
+#include "properties/EntityModel.h"
+#include "properties/IllustrationData.h"
+#include "properties/PropertiesModel.h"
+#include "properties/PropertiesPanel.h"
+#include "properties/PropertiesPanelUserConfiguration.h"
+#include "properties/PropertiesProxyModel.h"
 #include "qtextensions/FramelessWindow.h"
 #include "valueentry/InlineCalculator.h"
 #include "valueentry/IntegerValidator.h"
@@ -32,10 +39,17 @@ void RegisterQtComponentsTypes(const char* uri)
 
     // The order below is the module's registration order; keep new rows in their place.
     qmlRegisterType<HotkeyHandler>(uri, major, minor, "HotkeyHandler_Cpp");
+    qmlRegisterType<PropertiesPanelUserConfiguration>(uri, major, minor, "PropertiesPanelUserConfiguration");
+    qmlRegisterType<ActionsModel>(uri, major, minor, "ActionsModel");
+    qmlRegisterType<EntityModel>(uri, major, minor, "EntityModel");
+    qmlRegisterType<PropertiesModel>(uri, major, minor, "PropertiesModel");
+    qmlRegisterType<PropertiesPanel>(uri, major, minor, "PropertiesPanel_Cpp");
+    qmlRegisterType<PropertiesProxyModel>(uri, major, minor, "PropertiesProxyModel");
     qmlRegisterType<CommandMenuHelper>(uri, major, minor, "CommandMenuHelper");
     qmlRegisterType<IntegerValidator>(uri, major, minor, "IntegerValidator");
     qmlRegisterType<RealValidator>(uri, major, minor, "RealValidator");
     qmlRegisterType<InlineCalculator>(uri, major, minor, "InlineCalculator");
+    qmlRegisterType<IllustrationData>(uri, major, minor, "IllustrationData");
     qmlRegisterType<MarkingMenuSectionConfig>(uri, major, minor, "MarkingMenuSectionConfig");
     qmlRegisterType<MarkingMenuConfig>(uri, major, minor, "MarkingMenuConfig");
     qmlRegisterType<MarkingMenu>(uri, major, minor, "MarkingMenu_Cpp");

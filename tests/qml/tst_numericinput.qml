@@ -51,12 +51,18 @@ TestCase {
             { tag: "not finite", typed: "=1/0", result: "Invalid expression" },
             { tag: "above the maximum", typed: "=60", result: "60 is outside 0 … 50" },
             { tag: "fraction in an integer field", typed: "=7/2", integer: true, result: "3.5 is not a whole number" },
-            { tag: "equals sign alone", typed: "=", result: "" }
+            { tag: "equals sign alone", typed: "=", result: "" },
+            { tag: "units converted to a mm field", unit: "mm", typed: "=3cm", stored: 30 },
+            { tag: "no units: read in the field's unit", unit: "mm", typed: "=2*15", stored: 30 },
+            { tag: "units after a parenthesis", unit: "mm", typed: "=(1+2) cm", stored: 30 },
+            { tag: "degrees stay degrees", unit: "\u00B0", typed: "=45deg", stored: 45 },
+            { tag: "radians into a degree field", unit: "\u00B0", typed: "=pi/4 rad", stored: 45 },
+            { tag: "a converted result is range-checked", unit: "mm", typed: "=1m", result: "1000 is outside 0 … 50" }
         ]
     }
 
     function test_typing(data) {
-        const input = createInput({ value: 5, integer: data.integer === true })
+        const input = createInput({ value: 5, integer: data.integer === true, unit: data.unit || "m" })
         const field = findChild(input, "numericInputField")
         const spy = createTemporaryObject(spyComponent, testCase, { target: input })
         type(data.typed)

@@ -7,8 +7,7 @@ import UIComponents.Utilities
 
 // A number field that also takes an expression. Text starting with "=" is evaluated at once by the
 // host calculator and its result shown under the field; accepting (Enter, or leaving the field)
-// stores the number, and an invalid or out-of-range result is marked and never stored. Units in
-// an expression are converted to SI base units, so the field's values are SI values too.
+// stores the number, and an invalid or out-of-range result is marked and never stored.
 FocusScope {
     id: root
 
@@ -21,15 +20,22 @@ FocusScope {
     // Decimals a typed number may have and the stored number is shown with.
     property int decimals: UIComponentsConstants.calculatorDecimals
     property bool expressionAllowed: true
-    // Shown after the field, e.g. "m"; the calculator's SI unit of the value.
+    // Shown after the field, e.g. "mm"; the unit the value is in.
     property string unit: ""
+    // How many SI base units one unit of the field is (0.001 for millimetres, pi/180 for degrees).
+    // An expression that names units is worked out in SI base units and converted to the field's
+    // unit; one without units is read in the field's unit, so "=2*150" in a mm field is 300 mm and
+    // so is "=30cm".
+    property real unitFactor: Common.unitFactor(unit)
     // Reserve this width for the unit, so that fields of a form line up whatever their units.
     property real unitMinimumWidth: 0
     property string placeholderText: ""
 
     readonly property alias editText: field.text
     readonly property bool expressionMode: expressionAllowed && field.text.startsWith("=")
-    readonly property bool resultAcceptable: expressionMode && calculator.valid && fits(calculator.result)
+    readonly property real expressionResult: Common.namesUnits(calculator.expression)
+                                             ? calculator.result / unitFactor : calculator.result
+    readonly property bool resultAcceptable: expressionMode && calculator.valid && fits(expressionResult)
     readonly property alias calculator: calculator
 
     // The user stored a new number.
@@ -94,7 +100,7 @@ FocusScope {
         // The number the field's text stands for, NaN when it stands for none that may be stored.
         function entryValue() {
             if (root.expressionMode)
-                return root.resultAcceptable ? calculator.result : NaN
+                return root.resultAcceptable ? root.expressionResult : NaN
             if (!field.acceptableInput)
                 return NaN
             const number = parseNumber(field.text)
@@ -116,7 +122,7 @@ FocusScope {
         function resultText() {
             if (!calculator.valid)
                 return Strings.text("UI_INLINE_CALC_ERROR")
-            const result = calculator.result
+            const result = root.expressionResult
             if (root.integer && !Number.isInteger(result))
                 return Strings.text("UI_NUMERIC_INPUT_NOT_WHOLE").arg(calculator.formatValue(result))
             if (!root.fits(result))

@@ -1,0 +1,65 @@
+import QtQuick
+import Qml.QtComponents
+
+// One property with the editor of its type. A mixed value offers its distinct values to pick
+// from; a modified one offers a reset. Hovering explains the property with its illustration.
+PropertyRow_UI {
+    id: root
+
+    required property var rowModel
+    required property var panel
+    readonly property int valueType: rowModel.typeRole
+
+    objectName: "propertyRow_" + rowModel.uuidRole
+    name: rowModel.nameRole
+    richTextName: rowModel.isNameRichTextRole
+    highlightState: rowModel.highlightStateRole
+    hovered: hover.containsMouse
+
+    // Under the editor, so that it only sees the pointer where the editor does not take it.
+    MouseArea {
+        id: hover
+        parent: root
+        anchors.fill: parent
+        z: -1
+        hoverEnabled: true
+        acceptedButtons: Qt.NoButton
+        onContainsMouseChanged: if (containsMouse) root.panel.showIllustration(root.rowModel.uuidRole)
+    }
+
+    Loader {
+        id: editor
+        anchors.fill: parent
+        sourceComponent: {
+            switch (root.valueType) {
+            case 1: return boolEditor
+            case 2:
+            case 3: return numberEditor
+            case 5: return listEditor
+            case 6: return colorEditor
+            default: return textEditor
+            }
+        }
+        onActiveFocusChanged: if (activeFocus) root.panel.showIllustration(root.rowModel.uuidRole)
+    }
+
+    Component { id: boolEditor; BoolPropertyEditor { rowModel: root.rowModel; panel: root.panel } }
+    Component { id: numberEditor; NumberPropertyEditor { rowModel: root.rowModel; panel: root.panel } }
+    Component { id: listEditor; ListPropertyEditor { rowModel: root.rowModel; panel: root.panel } }
+    Component { id: colorEditor; ColorPropertyEditor { rowModel: root.rowModel; panel: root.panel } }
+    Component { id: textEditor; TextPropertyEditor { rowModel: root.rowModel; panel: root.panel } }
+
+    trailing: [
+        MixedValuesButton {
+            anchors.fill: parent
+            visible: root.rowModel.mixedRole
+            rowModel: root.rowModel
+            panel: root.panel
+        },
+        ResetButton {
+            anchors.fill: parent
+            visible: !root.rowModel.mixedRole && root.rowModel.hasActionRole
+            onClicked: root.panel.setValue(undefined, root.rowModel.uuidRole, PropertiesModel.ResetToDefaultAction)
+        }
+    ]
+}

@@ -1,0 +1,457 @@
+#include "PropertiesModel.h"
+
+#include "PropertiesLogging.h"
+#include "PropertiesRoles.h"
+#include "PropertyRowsBuilder.h"
+#include "PropertyValueConversion.h"
+#include "plugin/QtComponentsText.h"
+#include "properties/StructuralModel.h"
+
+#include <algorithm>
+#include <limits>
+
+namespace Orvo::UI::UIComponents {
+
+using namespace PropertiesRoles;
+using Kernel::Framework::ObjectId;
+using Kernel::Framework::PropertyDefinition;
+using Kernel::Framework::PropertyType;
+using Kernel::Framework::PropertyValue;
+using Kernel::Framework::StructuralModel;
+
+namespace {
+
+int ParameterIndexOf(const PropertyValue& value, const PropertyDefinition& definition)
+{
+    const auto& parameters = definition.parameters;
+    auto it = std::find_if(parameters.begin(), parameters.end(),
+                           [&value](const auto& parameter) { return parameter.value == value; });
+    return it == parameters.end() ? -1 : static_cast<int>(it - parameters.begin());
+}
+
+QStringList Texts(const QStringList& ids)
+{
+    QStringList texts;
+    texts.reserve(ids.size());
+    for (const QString& id : ids)
+        texts.push_back(GetText(id));
+    return texts;
+}
+
+bool Contains(const std::vector<QString>& names, const QString& name)
+{
+    return std::find(names.begin(), names.end(), name) != names.end();
+}
+
+// Bounds for QML's validators: a missing one is the widest the type allows.
+QVariant Bound(const PropertyDefinition& definition, const std::optional<double>& bound, bool lower)
+{
+    if (bound)
+        return definition.type == PropertyType::Integer ? QVariant(static_cast<int>(*bound))
+                                                        : QVariant(*bound);
+    if (definition.type == PropertyType::Integer)
+        return lower ? std::numeric_limits<std::int32_t>::lowest() : std::numeric_limits<std::int32_t>::max();
+    return lower ? std::numeric_limits<double>::lowest() : std::numeric_limits<double>::max();
+}
+
+} // namespace
+
+PropertiesModel::PropertiesModel(QObject* parent)
+    : QAbstractListModel(parent)
+{ }
+
+PropertiesModel::~PropertiesModel() = default;
+
+int PropertiesModel::rowCount(const QModelIndex& parent) const
+{
+    if (parent.isValid())
+        return 0;
+    return static_cast<int>(m_items.size());
+}
+
+QVariant PropertiesModel::data(const QModelIndex& index, int role) const
+{
+    if (!index.isValid() || !checkIndex(index, CheckIndexOption::ParentIsInvalid))
+        return {};
+    const PropertyItem& item = m_items[static_cast<std::size_t>(index.row())];
+    return item.IsProperty() ? PropertyData(item, index.row(), role) : HeaderData(item, index.row(), role);
+}
+
+QVariant PropertiesModel::PropertyData(const PropertyItem& item, int row, int role) const
+{
+    const PropertyDefinition& definition = *item.definition;
+    const PropertyItemValues& values = item.values;
+    switch (role) {
+    case Qt::DisplayRole:
+    case nameRole:
+        return item.name;
+    case uuidRole:
+        return definition.uuid;
+    case isNameRichTextRole:
+        return definition.richTextName;
+    case typeRole:
+        return item.type;
+    case categoryRole:
+        return item.category;
+    case Qt::EditRole:
+    case valueRole:
+        return PropertyValueConversion::ToVariant(values.first, definition);
+    case listIndexRole:
+        if (definition.type == PropertyType::List && values.distinctCount == 1)
+            return std::get<std::int32_t>(values.first);
+        return -1;
+    case indexRole:
+        return row;
+    case mixedValuesRole:
+        return values.distinct.GetVariantList();
+    case allValuesRole:
+        return Texts(definition.choiceIds);
+    case selectedParametersIndicesRole: {
+        QVariantList indices;
+        if (!definition.parameters.empty()) {
+            for (int index : values.parameterIndices)
+                indices.push_back(index);
+        }
+        return indices;
+    }
+    case parametersNamesRole: {
+        QStringList names;
+        for (const auto& parameter : definition.parameters)
+            names.push_back(GetText(parameter.nameId));
+        return names;
+    }
+    case parametersValuesRole: {
+        QVariantList parameterValues;
+        for (const auto& parameter : definition.parameters)
+            parameterValues.push_back(PropertyValueConversion::ToVariant(parameter.value, definition));
+        return parameterValues;
+    }
+    case hasActionRole:
+        return !definition.readOnly && values.highlight != PropertyItemValues::Default;
+    case isEditableRole:
+        return !definition.readOnly;
+    case highlightStateRole:
+        return values.highlight;
+    case visibleWhenValuesDifferRole:
+        return definition.visibleWhenValuesDiffer;
+    case mixedRole:
+        return values.distinctCount > 1;
+    case unitsRole:
+        return definition.units;
+    case isMinMaxRole:
+        return definition.minimum.has_value() || definition.maximum.has_value();
+    case minRole:
+        return Bound(definition, definition.minimum, true);
+    case maxRole:
+        return Bound(definition, definition.maximum, false);
+    case decimalsRole:
+        return definition.type == PropertyType::Integer ? 0 : definition.decimals;
+    case isCollapsedRole:
+        return item.collapsed;
+    case isBasicRole:
+        return definition.basic;
+    default:
+        return {};
+    }
+}
+
+QVariant PropertiesModel::HeaderData(const PropertyItem& item, int row, int role) const
+{
+    switch (role) {
+    case Qt::DisplayRole:
+    case nameRole:
+        return item.name;
+    case uuidRole:
+    case unitsRole:
+        return QString();
+    case typeRole:
+        return item.type;
+    case categoryRole:
+        return item.category;
+    case valueRole:
+        return item.level;
+    case listIndexRole:
+        return -1;
+    case indexRole:
+        return row;
+    case mixedValuesRole:
+    case selectedParametersIndicesRole:
+    case parametersValuesRole:
+        return QVariantList();
+    case allValuesRole:
+    case parametersNamesRole:
+        return QStringList();
+    case isNameRichTextRole:
+    case hasActionRole:
+    case isEditableRole:
+    case mixedRole:
+    case isMinMaxRole:
+        return false;
+    case highlightStateRole:
+    case decimalsRole:
+        return 0;
+    case visibleWhenValuesDifferRole:
+    case isBasicRole:
+        return true;
+    case isCollapsedRole:
+        return item.collapsed;
+    default:
+        return {};
+    }
+}
+
+bool PropertiesModel::setData(const QModelIndex& index, const QVariant& value, int role)
+{
+    if (!index.isValid() || !checkIndex(index, CheckIndexOption::ParentIsInvalid))
+        return false;
+    const PropertyItem& item = m_items[static_cast<std::size_t>(index.row())];
+    if (!item.IsProperty())
+        return false;
+    switch (role) {
+    case Qt::EditRole:
+    case valueRole:
+    case listIndexRole:
+        return SetValue(value, item.definition->uuid, NoAction);
+    case selectedParametersIndicesRole:
+        return WriteParameter(item, value);
+    default:
+        return false;
+    }
+}
+
+Qt::ItemFlags PropertiesModel::flags(const QModelIndex& index) const
+{
+    if (!index.isValid() || !checkIndex(index, CheckIndexOption::ParentIsInvalid))
+        return Qt::NoItemFlags;
+    const PropertyItem& item = m_items[static_cast<std::size_t>(index.row())];
+    Qt::ItemFlags flags = Qt::ItemIsEnabled | Qt::ItemNeverHasChildren;
+    if (item.IsProperty()) {
+        flags |= Qt::ItemIsSelectable;
+        if (!item.definition->readOnly)
+            flags |= Qt::ItemIsEditable;
+    }
+    return flags;
+}
+
+QHash<int, QByteArray> PropertiesModel::roleNames() const
+{
+    QHash<int, QByteArray> names = QAbstractListModel::roleNames();
+    names.insert({
+        { uuidRole, "uuidRole" },
+        { nameRole, "nameRole" },
+        { isNameRichTextRole, "isNameRichTextRole" },
+        { typeRole, "typeRole" },
+        { categoryRole, "categoryRole" },
+        { valueRole, "valueRole" },
+        { listIndexRole, "listIndexRole" },
+        { indexRole, "indexRole" },
+        { mixedValuesRole, "mixedValuesRole" },
+        { allValuesRole, "allValuesRole" },
+        { selectedParametersIndicesRole, "selectedParametersIndicesRole" },
+        { parametersNamesRole, "parametersNamesRole" },
+        { parametersValuesRole, "parametersValuesRole" },
+        { hasActionRole, "hasActionRole" },
+        { isEditableRole, "isEditableRole" },
+        { highlightStateRole, "highlightStateRole" },
+        { visibleWhenValuesDifferRole, "visibleWhenValuesDifferRole" },
+        { mixedRole, "mixedRole" },
+        { unitsRole, "unitsRole" },
+        { isMinMaxRole, "isMinMaxRole" },
+        { minRole, "minRole" },
+        { maxRole, "maxRole" },
+        { decimalsRole, "decimalsRole" },
+        { isCollapsedRole, "isCollapsedRole" },
+    });
+    return names;
+}
+
+void PropertiesModel::ShowObjects(std::shared_ptr<StructuralModel> model,
+                                  const std::vector<ObjectId>& objects)
+{
+    // A new set of objects brings a different set of rows altogether.
+    beginResetModel();
+    m_model = std::move(model);
+    m_objects.clear();
+    m_types.clear();
+    if (m_model) {
+        for (ObjectId id : objects) {
+            const auto* object = m_model->FindObject(id);
+            if (!object) {
+                qCWarning(lcProperties).noquote()
+                    << "Object" << id << "does not exist; its properties are not shown";
+                continue;
+            }
+            m_objects.push_back(id);
+            if (std::find(m_types.begin(), m_types.end(), object->SharedType()) == m_types.end())
+                m_types.push_back(object->SharedType());
+        }
+    }
+    m_items = PropertyRowsBuilder::Build(CommonDefinitions());
+    for (PropertyItem& item : m_items) {
+        item.collapsed = Contains(m_collapsedCategories, item.category);
+        if (item.IsProperty())
+            item.values = CollectValues(*item.definition);
+    }
+    endResetModel();
+}
+
+void PropertiesModel::RefreshValues()
+{
+    int firstChanged = -1;
+    int lastChanged = -1;
+    int categoryRow = -1;
+    for (std::size_t row = 0; row < m_items.size(); ++row) {
+        PropertyItem& item = m_items[row];
+        if (item.type == c_categoryType)
+            categoryRow = static_cast<int>(row);
+        if (!item.IsProperty())
+            continue;
+        PropertyItemValues values = CollectValues(*item.definition);
+        if (values.SameAs(item.values))
+            continue;
+        item.values = std::move(values);
+        // The headers above decide whether they are shown by the rows below them, so they
+        // are reported too.
+        if (firstChanged < 0)
+            firstChanged = categoryRow >= 0 ? categoryRow : static_cast<int>(row);
+        lastChanged = static_cast<int>(row);
+    }
+    if (firstChanged >= 0)
+        emit dataChanged(index(firstChanged), index(lastChanged));
+}
+
+bool PropertiesModel::SetValue(const QVariant& value, const QString& uuid, std::int32_t action)
+{
+    const int row = FindRow(uuid);
+    if (row < 0) {
+        qCWarning(lcProperties).noquote() << "SetValue: no property" << uuid << "is shown";
+        return false;
+    }
+    const PropertyItem& item = m_items[static_cast<std::size_t>(row)];
+    if (item.definition->readOnly) {
+        qCWarning(lcProperties).noquote() << "SetValue:" << item.definition->key << "is read-only";
+        return false;
+    }
+    switch (action) {
+    case NoAction:
+        return WriteValue(item, value);
+    case ResetToDefaultAction: {
+        const auto result = m_model->ResetToDefault(m_objects, item.definition->key);
+        RefreshValues();
+        return result.rejected == 0;
+    }
+    default:
+        qCWarning(lcProperties).noquote()
+            << "SetValue: unknown action" << action << "for" << item.definition->key;
+        return false;
+    }
+}
+
+bool PropertiesModel::WriteValue(const PropertyItem& item, const QVariant& value)
+{
+    const PropertyDefinition& definition = *item.definition;
+    const auto converted = PropertyValueConversion::FromVariant(value, definition);
+    if (!converted) {
+        qCWarning(lcProperties).nospace().noquote()
+            << "SetValue: " << value << " is no " << Kernel::Framework::TypeName(definition.type)
+            << " value for " << definition.key;
+        return false;
+    }
+    const auto result = m_model->SetValue(m_objects, definition.key, *converted);
+    RefreshValues();
+    return result.rejected == 0 && result.changed + result.unchanged > 0;
+}
+
+bool PropertiesModel::WriteParameter(const PropertyItem& item, const QVariant& parameterIndex)
+{
+    const PropertyDefinition& definition = *item.definition;
+    bool ok = false;
+    const int index = parameterIndex.toInt(&ok);
+    if (!ok || index < 0 || index >= static_cast<int>(definition.parameters.size())) {
+        qCWarning(lcProperties).noquote() << "No parameter" << parameterIndex << "for" << definition.key;
+        return false;
+    }
+    if (definition.readOnly)
+        return false;
+    const auto result = m_model->SetValue(m_objects, definition.key,
+                                          definition.parameters[static_cast<std::size_t>(index)].value);
+    RefreshValues();
+    return result.rejected == 0;
+}
+
+void PropertiesModel::SetCollapsedCategories(const std::vector<QString>& collapsedCategories)
+{
+    m_collapsedCategories = collapsedCategories;
+    for (std::size_t row = 0; row < m_items.size(); ++row) {
+        PropertyItem& item = m_items[row];
+        const bool collapsed = Contains(m_collapsedCategories, item.category);
+        if (item.collapsed == collapsed)
+            continue;
+        item.collapsed = collapsed;
+        const QModelIndex changed = index(static_cast<int>(row));
+        emit dataChanged(changed, changed, { isCollapsedRole });
+    }
+}
+
+int PropertiesModel::FindRow(const QString& uuid) const
+{
+    auto it = std::find_if(m_items.begin(), m_items.end(), [&uuid](const PropertyItem& item) {
+        return item.IsProperty() && item.definition->uuid == uuid;
+    });
+    return it == m_items.end() ? -1 : static_cast<int>(it - m_items.begin());
+}
+
+const PropertyDefinition* PropertiesModel::FindDefinition(const QString& uuid) const
+{
+    const int row = FindRow(uuid);
+    return row < 0 ? nullptr : m_items[static_cast<std::size_t>(row)].definition;
+}
+
+std::vector<const PropertyDefinition*> PropertiesModel::CommonDefinitions() const
+{
+    std::vector<const PropertyDefinition*> definitions;
+    if (m_types.empty())
+        return definitions;
+    for (const PropertyDefinition& definition : m_types.front()->Properties()) {
+        const bool shared = std::all_of(m_types.begin() + 1, m_types.end(), [&definition](const auto& type) {
+            const PropertyDefinition* other = type->FindProperty(definition.key);
+            return other && other->type == definition.type;
+        });
+        if (shared)
+            definitions.push_back(&definition);
+    }
+    return definitions;
+}
+
+PropertyItemValues PropertiesModel::CollectValues(const PropertyDefinition& definition) const
+{
+    PropertyItemValues values;
+    values.first = definition.defaultValue;
+    bool hasFirst = false;
+    for (ObjectId id : m_objects) {
+        const auto* object = m_model->FindObject(id);
+        if (!object || !object->HasProperty(definition.key))
+            continue;
+        const PropertyValue value = object->Value(definition.key);
+        if (!hasFirst) {
+            values.first = value;
+            hasFirst = true;
+        }
+        if (values.distinct.AddUnique(PropertyValueConversion::ToMixedValue(value, definition)))
+            values.parameterIndices.push_back(ParameterIndexOf(value, definition));
+        // Kinds of object may share a property but not its default. A read-only value is the
+        // host's, so it does not count as the user's change.
+        const PropertyValue& ownDefault = object->Type().FindProperty(definition.key)->defaultValue;
+        if (!definition.Check(value).isEmpty())
+            values.highlight = PropertyItemValues::Error;
+        else if (!definition.readOnly && value != ownDefault
+                 && values.highlight == PropertyItemValues::Default)
+            values.highlight = PropertyItemValues::DefaultModified;
+    }
+    values.distinctCount = values.distinct.GetCount();
+    if (!definition.readOnly && values.highlight != PropertyItemValues::Default)
+        values.distinct.AddUnique(MixedValues::Action { ResetToDefaultAction });
+    return values;
+}
+
+} // namespace Orvo::UI::UIComponents
