@@ -10,6 +10,7 @@
 #include "kernel/PathText.h"
 #include "properties/SampleStructure.h"
 #include "properties/StructuralModel.h"
+#include "qtextensions/ShellQmlContext.h"
 
 #include <QDir>
 #include <QGuiApplication>
@@ -48,7 +49,9 @@ int main(int argc, char** argv)
 
     const DemoOptions options = DemoOptions::Parse(QGuiApplication::arguments());
     if (!options.valid) {
-        std::fprintf(stderr, "%s\nUsage: QtComponentsDemo [--page NAME] [--hold-marking-menu] [--screenshot FILE [--delay MS]]\n",
+        std::fprintf(stderr,
+                     "%s\nUsage: QtComponentsDemo [--page NAME] [--hold-marking-menu] [--screenshot FILE "
+                     "[--delay MS]]\n",
                      qPrintable(options.error));
         return 2;
     }
@@ -68,6 +71,8 @@ int main(int argc, char** argv)
     // The build lays the QML import directory out beside bin/.
     engine.addImportPath(
         QDir(QGuiApplication::applicationDirPath()).absoluteFilePath(QStringLiteral("../qml")));
+    // The shell's context: what panels publish there (the hotkey handler's model) every page sees.
+    services->Get<Orvo::UI::QtExtensions::ShellQmlContext>()->SetContext(engine.rootContext());
     engine.rootContext()->setContextProperty(QStringLiteral("initialPage"), options.page);
     engine.rootContext()->setContextProperty(QStringLiteral("membersTable"), membersFeeder.GetModel());
     engine.rootContext()->setContextProperty(QStringLiteral("commandActivity"), &commandActivity);

@@ -891,5 +891,81 @@
         <source>Filter</source>
         <translation>Filter</translation>
     </message>
+    <message id="UI_APP_PAGE_SHORTCUTS">
+        <source>Shortcuts</source>
+        <translation>Keyboard shortcuts</translation>
+    </message>
+    <message id="UI_APP_STATUS_LAST_COMMAND">
+        <source>Last command</source>
+        <translation>Last command: %1 (run by %2)</translation>
+    </message>
+    <message id="UI_APP_SHORTCUTS_LIST_TITLE">
+        <source>Commands</source>
+        <translation>Commands and their shortcuts</translation>
+    </message>
+    <message id="UI_APP_SHORTCUTS_EDIT_LABEL">
+        <source>Shortcut for</source>
+        <translation>Shortcut for %1:</translation>
+    </message>
+    <message id="UI_APP_SHORTCUTS_EDIT_PLACEHOLDER">
+        <source>Example</source>
+        <translation>For example Ctrl+Shift+K</translation>
+    </message>
+    <message id="UI_APP_SHORTCUTS_APPLY">
+        <source>Apply</source>
+        <translation>Apply</translation>
+    </message>
+    <message id="UI_APP_SHORTCUTS_REMOVE">
+        <source>Remove</source>
+        <translation>Remove</translation>
+    </message>
+    <message id="UI_APP_SHORTCUTS_INVALID">
+        <source>Invalid</source>
+        <translation>“%1” is not a key sequence; the shortcut stays as it was.</translation>
+    </message>
+    <message id="UI_APP_SHORTCUTS_STATE_TITLE">
+        <source>Shortcuts</source>
+        <translation>Shortcuts</translation>
+    </message>
+    <message id="UI_APP_SHORTCUTS_ON">
+        <source>On</source>
+        <translation>On: press a shortcut anywhere in the application, on any page.</translation>
+    </message>
+    <message id="UI_APP_SHORTCUTS_OFF">
+        <source>Off</source>
+        <translation>Off while a message box is open.</translation>
+    </message>
+    <message id="UI_APP_SHORTCUTS_OPEN_BOX">
+        <source>Open box</source>
+        <translation>Open a message box</translation>
+    </message>
+    <message id="UI_APP_SHORTCUTS_BOX_TITLE">
+        <source>Box title</source>
+        <translation>Shortcuts are off</translation>
+    </message>
+    <message id="UI_APP_SHORTCUTS_BOX_TEXT">
+        <source>Box text</source>
+        <translation>While this message box is open, the application's keyboard shortcuts run nothing. Try one, then close the box and try it again.</translation>
+    </message>
+    <message id="UI_APP_SHORTCUTS_BOX_CLOSE">
+        <source>Close</source>
+        <translation>Close</translation>
+    </message>
+    <message id="UI_APP_SHORTCUTS_BINDINGS_TITLE">
+        <source>Bindings</source>
+        <translation>Bound by the hotkey handler</translation>
+    </message>
+    <message id="UI_APP_SHORTCUTS_LOG_TITLE">
+        <source>Commands run</source>
+        <translation>Commands run</translation>
+    </message>
+    <message id="UI_APP_SHORTCUTS_LOG_EMPTY">
+        <source>No command</source>
+        <translation>No command has run yet. Press one of the shortcuts, for example Ctrl+Shift+N.</translation>
+    </message>
+    <message id="UI_APP_SHORTCUTS_LOG_ENTRY">
+        <source>Log entry</source>
+        <translation>%1 — by %2</translation>
+    </message>
 </context>
 </TS>

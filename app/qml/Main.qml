@@ -20,7 +20,8 @@ ApplicationWindow {
         { name: "valueentry", lcid: "UI_APP_PAGE_VALUE_ENTRY", source: "ValueEntryPage.qml" },
         { name: "markingmenu", lcid: "UI_APP_PAGE_MARKING_MENU", source: "MarkingMenuPage.qml" },
         { name: "properties", lcid: "UI_APP_PAGE_PROPERTIES", source: "PropertiesPage.qml" },
-        { name: "tables", lcid: "UI_APP_PAGE_TABLES", source: "TablesPage.qml" }
+        { name: "tables", lcid: "UI_APP_PAGE_TABLES", source: "TablesPage.qml" },
+        { name: "shortcuts", lcid: "UI_APP_PAGE_SHORTCUTS", source: "ShortcutsPage.qml" }
     ]
 
     function pageIndex(name) {
@@ -29,6 +30,12 @@ ApplicationWindow {
                 return i
         }
         return 0
+    }
+
+    // The application's keyboard shortcuts, active on every page.
+    Loader {
+        objectName: "hotkeyHandler"
+        source: "qrc:/UIComponents/HotkeyHandler/HotkeyHandler.qml"
     }
 
     header: Rectangle {
@@ -99,7 +106,9 @@ ApplicationWindow {
         color: BasicConstants.colors.panelHeader
         Text {
             anchors { left: parent.left; leftMargin: 10; verticalCenter: parent.verticalCenter }
-            text: Strings.text("UI_APP_STATUS_READY")
+            text: commandActivity.runCount > 0
+                  ? Strings.text("UI_APP_STATUS_LAST_COMMAND").arg(commandActivity.lastCommandName).arg(commandActivity.lastOrigin)
+                  : Strings.text("UI_APP_STATUS_READY")
             font.family: BasicConstants.fonts.family
             font.pixelSize: BasicConstants.fonts.small
             color: BasicConstants.colors.textSecondary

@@ -24,4 +24,13 @@ void DebugOutput(const char* message)
     DebugOutput(QString::fromUtf8(message));
 }
 
+void DebugOutputText(const QString& text)
+{
+    QStringList lines = text.split(QLatin1Char('\n'));
+    if (lines.size() > 1 && lines.last().isEmpty())
+        lines.removeLast(); // the line feed that ends the last line starts no new one
+    for (const QString& line : std::as_const(lines))
+        DebugOutput(line);
+}
+
 } // namespace Orvo::Kernel::Framework

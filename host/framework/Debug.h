@@ -15,4 +15,9 @@ HOSTKIT_EXPORT void DebugOutput(const QString& message);
 HOSTKIT_EXPORT void DebugOutput(const std::string& message);
 HOSTKIT_EXPORT void DebugOutput(const char* message);
 
+// Writes text the way a debugger stream takes it: the writer ends its own lines. Every line
+// becomes one record of the category; a last line without its line feed is written as well,
+// so nothing waits for a line feed that may never come.
+HOSTKIT_EXPORT void DebugOutputText(const QString& text);
+
 } // namespace Orvo::Kernel::Framework

@@ -15,6 +15,8 @@
 #include "properties/StructuralModel.h"
 #include "properties/StructuralObjectTypes.h"
 #include "qtextensions/ComponentConfigurationStore.h"
+#include "qtextensions/MessageBoxService.h"
+#include "qtextensions/ShellQmlContext.h"
 
 #include <QLocale>
 
@@ -74,6 +76,10 @@ void DefaultServices::Install(ServiceCatalog& catalog)
     catalog.Register<ICommandRepository>(commandRepository);
     catalog.Register<IUICommandProcessor>(
         std::make_shared<UICommandProcessor>(commandRepository, catalog.Get<EventBus>()));
+    catalog.Register<UI::QtExtensions::MessageBoxService>(
+        std::make_shared<UI::QtExtensions::MessageBoxService>(catalog.Get<EventBus>()));
+    // Empty until the host's engine exists: the host registers its root context then.
+    catalog.Register<UI::QtExtensions::ShellQmlContext>(std::make_shared<UI::QtExtensions::ShellQmlContext>());
 
     catalog.AddInjector([](IServiceClient& client, ServiceCatalog& services) {
         if (auto* needsBus = dynamic_cast<INeedEventbus*>(&client))

@@ -4,7 +4,8 @@
 
 namespace Orvo::UI::QtExtensions {
 
-// The host's own QML types, under the module "Orvo.QtExtensions" 1.0 (ViewInputArea).
+// The host's own QML types, under the module "Orvo.QtExtensions" 1.0 (ViewInputArea,
+// MessageBoxTracker, CommandListModel, CommandExecutionMonitor).
 HOSTKIT_EXPORT void RegisterHostQmlTypes();
 
 inline constexpr const char* c_hostQmlModule = "Orvo.QtExtensions";

@@ -2,6 +2,7 @@
 
 #include "StringsQtComponents.h"
 #include "commands/CommandMenuHelper.h"
+#include "commands/HotkeyHandler.h"
 #include "markingmenu/MarkingMenu.h"
 #include "markingmenu/MarkingMenuConfig.h"
 #include "markingmenu/MarkingMenuSectionConfig.h"
@@ -46,6 +47,7 @@ void RegisterQtComponentsTypes(const char* uri)
     constexpr int minor = 0;
 
     // The order below is the module's registration order; keep new rows in their place.
+    qmlRegisterType<HotkeyHandler>(uri, major, minor, "HotkeyHandler_Cpp");
     qmlRegisterType<PropertiesPanelUserConfiguration>(uri, major, minor, "PropertiesPanelUserConfiguration");
     qmlRegisterType<ActionsModel>(uri, major, minor, "ActionsModel");
     qmlRegisterType<EntityModel>(uri, major, minor, "EntityModel");

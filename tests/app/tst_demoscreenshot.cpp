@@ -26,6 +26,7 @@ private slots:
         QTest::addColumn<QString>("page");
         QTest::newRow("first page") << QString();
         QTest::newRow("overview") << QStringLiteral("overview");
+        QTest::newRow("keyboard shortcuts") << QStringLiteral("shortcuts");
     }
 
     void shouldWriteANonBlankPngOfEachPage()

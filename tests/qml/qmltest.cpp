@@ -1,3 +1,43 @@
+#include "framework/HostApplication.h"
+#include "framework/ServiceCatalog.h"
+#include "kernel/Directories.h"
+#include "kernel/PathText.h"
+#include "qtextensions/ShellQmlContext.h"
+
+#include <QCoreApplication>
+#include <QQmlContext>
+#include <QQmlEngine>
+#include <QTemporaryDir>
 #include <QtQuickTest>
 
-QUICK_TEST_MAIN(qtcomponents)
+// Every test document runs in an application like the demo: a host started on the runner's
+// folder, where the build puts the demo's shipped files (commands, marking menu), whose shell
+// context is the test engine's root context, and whose user settings start empty in a folder
+// of their own, so that a user's stored panels never leak into a test.
+class QmlTestHost : public QObject
+{
+    Q_OBJECT
+
+public slots:
+    void applicationAvailable()
+    {
+        using namespace Orvo::Kernel;
+        Directories::SetDirectory(Directories::DirectoryType::UserConfigurationDirectory,
+                                  Directories::ToPath(m_userConfiguration.path()));
+        Framework::HostApplication::Start(Directories::ToPath(QCoreApplication::applicationDirPath()));
+    }
+
+    void qmlEngineAvailable(QQmlEngine* engine)
+    {
+        using Orvo::UI::QtExtensions::ShellQmlContext;
+        if (auto shell = Orvo::Kernel::Framework::ServiceCatalog::Global()->Get<ShellQmlContext>())
+            shell->SetContext(engine->rootContext());
+    }
+
+private:
+    QTemporaryDir m_userConfiguration;
+};
+
+QUICK_TEST_MAIN_WITH_SETUP(qtcomponents, QmlTestHost)
+
+#include "qmltest.moc"

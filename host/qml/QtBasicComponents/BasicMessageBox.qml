@@ -1,0 +1,67 @@
+import QtQuick
+import QtQuick.Controls.Basic as Controls
+import QtQuick.Templates as T
+import BasicComponents.Constants
+import Orvo.QtExtensions
+
+// The application's message box: modal, centred in its window, closed by its one button or
+// by Escape. While it is open the host knows that a message box is shown, and components
+// that answer keys elsewhere (keyboard shortcuts) hold still until it is closed.
+Controls.Dialog {
+    id: box
+    property alias text: message.text
+    property string acceptText: "OK"
+
+    parent: T.Overlay.overlay
+    anchors.centerIn: parent
+    width: Math.min(420, parent ? parent.width - 40 : 420)
+    modal: true
+    closePolicy: Controls.Popup.CloseOnEscape
+    font.family: BasicConstants.fonts.family
+    font.pixelSize: BasicConstants.fonts.normal
+
+    MessageBoxTracker {
+        shown: box.visible
+    }
+
+    background: Rectangle {
+        color: BasicConstants.colors.panel
+        border.color: BasicConstants.colors.border
+        radius: BasicConstants.sizes.radius
+    }
+
+    header: Rectangle {
+        implicitHeight: BasicConstants.sizes.controlHeight + 6
+        color: BasicConstants.colors.panelHeader
+        radius: BasicConstants.sizes.radius
+        Text {
+            anchors { fill: parent; leftMargin: BasicConstants.sizes.margin + 4 }
+            verticalAlignment: Text.AlignVCenter
+            text: box.title
+            font.family: BasicConstants.fonts.family
+            font.pixelSize: BasicConstants.fonts.large
+            font.bold: true
+            color: BasicConstants.colors.text
+            elide: Text.ElideRight
+        }
+    }
+
+    contentItem: Text {
+        id: message
+        wrapMode: Text.WordWrap
+        font.family: BasicConstants.fonts.family
+        font.pixelSize: BasicConstants.fonts.normal
+        color: BasicConstants.colors.text
+    }
+
+    footer: Controls.DialogButtonBox {
+        alignment: Qt.AlignRight
+        background: null
+        BasicButton {
+            objectName: "messageBoxAccept"
+            text: box.acceptText
+            implicitWidth: 88
+            Controls.DialogButtonBox.buttonRole: Controls.DialogButtonBox.AcceptRole
+        }
+    }
+}

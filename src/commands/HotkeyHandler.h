@@ -1,0 +1,36 @@
+#pragma once
+
+#include "qtextensions/UIComponent.h"
+
+#include <QPointer>
+#include <QQmlContext>
+
+namespace Orvo::UI::UIComponents {
+
+class HotkeyHandlerModel;
+
+// The native half of the hotkey handler panel. When the host loads it, it creates the model
+// of the application's shortcuts and publishes it in the shell's QML context as
+// "hotkeyHandlerModel", where the panel's document (and any other) finds it.
+class HotkeyHandler : public QtExtensions::UIComponent
+{
+    Q_OBJECT
+
+public:
+    explicit HotkeyHandler(QQuickItem* parent = nullptr);
+    ~HotkeyHandler() override;
+
+    // The configuration text is not used: the shortcuts belong to the command repository.
+    void loadConfiguration(const QString& userConfiguration) override;
+    QString saveConfiguration() override;
+
+    static constexpr const char* c_modelContextProperty = "hotkeyHandlerModel";
+
+private:
+    QQmlContext* ShellContext() const;
+
+    HotkeyHandlerModel* m_model = nullptr;
+    QPointer<QQmlContext> m_publishedIn;
+};
+
+} // namespace Orvo::UI::UIComponents
