@@ -1,0 +1,36 @@
+import QtQuick
+import QtTest
+import Qml.QtComponents
+
+// Every registered type must be creatable from QML with nothing but the module import.
+TestCase {
+    id: testCase
+    name: "RegisteredTypes"
+    when: windowShown
+
+    function test_create_data() {
+        return [
+            "HotkeyHandler_Cpp", "PropertiesPanelUserConfiguration", "ActionsModel", "EntityModel",
+            "PropertiesModel", "PropertiesPanel_Cpp", "PropertiesProxyModel", "CommandMenuHelper",
+            "IntegerValidator", "RealValidator", "InlineCalculator", "IllustrationData",
+            "TableColumnsModel", "TableContentModel", "MultiEditAction", "MultiEditActionSolver",
+            "MultiEditSearchResult", "TableContentFilterModel", "TableSelectionModel",
+            "TableSelectionFilterModel", "FilterBarModel",
+            "MarkingMenuSectionConfig", "MarkingMenuConfig", "MarkingMenu_Cpp"
+        ].map(type => ({ tag: type, type: type }))
+    }
+
+    function test_create(data) {
+        const object = Qt.createQmlObject("import Qml.QtComponents\n" + data.type + " {}", testCase, data.type)
+        verify(object !== null)
+        object.destroy()
+    }
+
+    function test_framelessWindow() {
+        const window = Qt.createQmlObject("import Qml.QtComponents\nFramelessWindow { width: 10; height: 10 }",
+                                          testCase, "FramelessWindow")
+        verify(window !== null)
+        compare(window.visible, false)
+        window.destroy()
+    }
+}
