@@ -1049,7 +1049,8 @@ void TableContentModel::copyToClipboard()
     if (!envelope)
         return;
     try {
-        const TableNumberText numbers;
+        // The clipboard carries every digit, so that a copy pasted back changes nothing.
+        const TableNumberText numbers(TableNumberText::Precision::Exact);
         QStringList labels;
         for (int column = envelope->left; column <= envelope->right; ++column)
             labels.append(m_columns[static_cast<std::size_t>(column)].label);

@@ -2,7 +2,24 @@
 
 #include "framework/Calculator.h"
 
+#include <cmath>
+
 namespace Orvo::UI::UIComponents {
+
+TableNumberText::TableNumberText(Precision precision)
+    : m_precision(precision)
+{ }
+
+QString TableNumberText::ToEditText(double value) const
+{
+    if (m_precision == Precision::EditDecimals || !std::isfinite(value))
+        return m_helper.toEditValue(value);
+    // Fixed notation, since the calculator that reads pasted text takes "e" for Euler's number.
+    QLocale locale = m_helper.locale();
+    locale.setNumberOptions(QLocale::OmitGroupSeparator);
+    const QString text = locale.toString(value, 'f', QLocale::FloatingPointShortest);
+    return value == 0.0 ? QStringLiteral("0") : text;
+}
 
 std::optional<double> TableNumberText::Parse(const QString& text)
 {

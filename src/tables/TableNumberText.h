@@ -13,14 +13,21 @@ namespace Orvo::UI::UIComponents {
 class TableNumberText
 {
 public:
-    TableNumberText() = default;
+    enum class Precision
+    {
+        EditDecimals, // what a person edits: the helper's decimals, trailing zeros removed
+        Exact, // every digit the double needs to read back the same (the clipboard's form)
+    };
+
+    explicit TableNumberText(Precision precision = Precision::EditDecimals);
 
     // The value of a typed number or expression; nullopt when the text is not one.
     static std::optional<double> Parse(const QString& text);
-    QString ToEditText(double value) const { return m_helper.toEditValue(value); }
+    QString ToEditText(double value) const;
 
 private:
     BasicComponents::NumberHelper m_helper;
+    Precision m_precision;
 };
 
 } // namespace Orvo::UI::UIComponents

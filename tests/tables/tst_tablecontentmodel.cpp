@@ -348,6 +348,37 @@ private slots:
         }
     }
 
+    void shouldCopyRealNumbersWithEveryDigit_data()
+    {
+        QTest::addColumn<double>("value");
+        QTest::newRow("more decimals than an edit shows") << 1.23456789012345;
+        QTest::newRow("tiny") << 1e-9;
+        QTest::newRow("large with a fraction") << 123456789.125;
+        QTest::newRow("negative") << -0.1;
+        QTest::newRow("zero") << 0.0;
+    }
+
+    void shouldCopyRealNumbersWithEveryDigit()
+    {
+        // Given a real cell whose value has more digits than the edit form shows
+        QFETCH(double, value);
+        TableContentModel model;
+        TableTestFeeder feeder(model);
+        model.setAllowEdit(true);
+        feeder.SetTable({ Column("length", TableValueType::Real) },
+                        { { Cell(value, TableValueType::Real) }, { Cell(0.5, TableValueType::Real) } });
+        feeder.Load();
+        // When it is copied and pasted onto the next row
+        model.selectionModel()->select(model.index(0, 0), TableSelectionModel::CleanSelect);
+        model.copyToClipboard();
+        model.contentFilterModel()->selectionModel()->select(model.contentFilterModel()->index(1, 0),
+                                                             TableSelectionModel::CleanSelect);
+        model.pasteFromClipboard();
+        model.confirmUpdate();
+        // Then the pasted value is exactly the copied one
+        QCOMPARE(model.data(model.index(1, 0), TableContentModel::ContentRole).toDouble(), value);
+    }
+
     void shouldConvertTypedText_data()
     {
         QTest::addColumn<QString>("text");
