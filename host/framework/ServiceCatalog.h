@@ -36,8 +36,6 @@ public:
         return it == m_services.end() ? nullptr : std::static_pointer_cast<Service>(it->second);
     }
 
-    template<class Service> void Unregister() { m_services.erase(typeid(Service)); }
-
     // Injectors know one client interface each; Inject runs all of them on the client.
     void AddInjector(Injector injector);
     void Inject(IServiceClient& client);

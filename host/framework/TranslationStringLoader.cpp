@@ -17,11 +17,6 @@ bool TranslationStringLoader::LoadTable(const std::wstring& table, const QString
     return true;
 }
 
-bool TranslationStringLoader::HasTable(const std::wstring& table) const
-{
-    return m_tables.count(table) != 0;
-}
-
 std::wstring TranslationStringLoader::Load(const StringReference& reference) const
 {
     auto it = m_tables.find(reference.table);

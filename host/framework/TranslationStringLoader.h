@@ -18,7 +18,6 @@ public:
     // Loads "<table>_<language>.qm" from directory (a file path or a ":/" resource folder).
     // Returns false and keeps the previous catalogue when the file is missing or unreadable.
     bool LoadTable(const std::wstring& table, const QString& directory, const QString& language);
-    bool HasTable(const std::wstring& table) const;
 
     std::wstring Load(const StringReference& reference) const override;
 

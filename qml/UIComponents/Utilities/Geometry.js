@@ -23,11 +23,3 @@ function normalizeAngle(degrees) {
 function clamp(value, minimum, maximum) {
     return Math.max(minimum, Math.min(maximum, value))
 }
-
-// Keeps a rectangle of the given size inside the bounds, moving it as little as possible.
-function fitInside(x, y, width, height, boundsWidth, boundsHeight) {
-    return {
-        x: clamp(x, 0, Math.max(0, boundsWidth - width)),
-        y: clamp(y, 0, Math.max(0, boundsHeight - height))
-    }
-}

@@ -16,7 +16,6 @@ public:
     explicit RenderingJobs(QQuickItem* item);
 
     void SetReleased(bool released);
-    bool IsReleased() const { return m_released; }
     QQuickWindow::RenderStage CurrentStage() const;
 
 protected:
