@@ -1,5 +1,6 @@
 #include "CommandActivity.h"
 
+#include "commands/CommandOrigin.h"
 #include "commands/ICommandRepository.h"
 #include "events/CommandExecuted.h"
 #include "framework/DefaultServices.h"
@@ -31,7 +32,7 @@ CommandActivity::CommandActivity(QObject* parent)
                 ? Orvo::UI::QtExtensions::File::createQmlFilePathFromApplicationPath(command->icon)
                 : QString();
             m_lastParameters = QString::fromStdWString(event.GetParameterString());
-            m_lastOrigin = QString::fromStdWString(event.GetOrigin());
+            m_lastOrigin = QString::fromStdWString(CommandOrigin::DisplayName(event.GetOrigin()));
             ++m_runCount;
             emit commandRun();
         });

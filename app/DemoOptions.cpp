@@ -17,8 +17,26 @@ DemoOptions DemoOptions::Parse(const QStringList& arguments)
             takeValue(options.screenshotFile);
         } else if (argument == QLatin1String("--page")) {
             takeValue(options.page);
+        } else if (argument == QLatin1String("--renderer")) {
+            takeValue(options.renderer);
+            if (options.renderer != QLatin1String("software")
+                && options.renderer != QLatin1String("opengl")) {
+                options.valid = false;
+                options.error = QStringLiteral("--renderer takes software or opengl");
+            }
         } else if (argument == QLatin1String("--hold-marking-menu")) {
             options.holdMarkingMenu = true;
+        } else if (argument == QLatin1String("--model-size")) {
+            QString size;
+            takeValue(size);
+            bool ok = false;
+            const int value = size.toInt(&ok);
+            if (!ok || value < 1 || value > 5'000'000) {
+                options.valid = false;
+                options.error = QStringLiteral("--model-size takes a number of members from 1 to 5000000");
+            } else {
+                options.modelSize = value;
+            }
         } else if (argument == QLatin1String("--delay")) {
             QString delay;
             takeValue(delay);

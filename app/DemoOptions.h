@@ -9,7 +9,9 @@ struct DemoOptions
     QString screenshotFile; // empty: run interactively
     QString page; // the page to open first, by its name
     int screenshotDelayMs = 400;
+    int modelSize = 0; // members of the demo's building; 0: the default building
     bool holdMarkingMenu = false; // play a secondary-button hold over the marking menu page's view
+    QString renderer; // "software" or "opengl" for the model views; empty: the user's setting
     bool valid = true;
     QString error;
 

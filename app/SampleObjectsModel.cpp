@@ -9,9 +9,11 @@
 
 #include <QColor>
 #include <QLocale>
+#include <QTextDocumentFragment>
 #include <algorithm>
 
 using namespace Orvo::Kernel::Framework;
+using namespace Orvo::Kernel::Model;
 
 namespace {
 
@@ -20,27 +22,29 @@ QString Text(const QString& id)
     auto loader = ServiceCatalog::Global()->Get<IStringLoader>();
     if (!loader)
         return id;
-    return QString::fromStdWString(
+    const QString text = QString::fromStdWString(
         loader->Load({ id.toStdWString(), DefaultServices::c_componentsStringTable }));
+    return text.contains(QLatin1Char('<')) ? QTextDocumentFragment::fromHtml(text).toPlainText() : text;
 }
 
-// The text of one value, without units.
-QString Format(const StructuralObject& object, const QString& key)
+// The text of one value with its units.
+QString Format(const PropertyDefinition& definition, const PropertyValue& value)
 {
-    const PropertyDefinition* definition = object.Type().FindProperty(key);
-    if (!definition)
-        return {};
-    const PropertyValue value = object.Value(key);
-    if (definition->type == PropertyType::List)
-        return Text(definition->choiceIds.value(std::get<std::int32_t>(value)));
-    if (const auto* number = std::get_if<double>(&value))
-        return QLocale().toString(*number, 'f', definition->decimals);
-    if (const auto* integer = std::get_if<std::int32_t>(&value))
-        return QString::number(*integer);
-    if (const auto* flag = std::get_if<bool>(&value))
-        return Text(*flag ? "UI_PROPERTIES_YES" : "UI_PROPERTIES_NO");
-    return {};
+    QString text;
+    if (definition.type == PropertyType::List)
+        text = Text(definition.choiceIds.value(std::get<std::int32_t>(value)));
+    else if (const auto* number = std::get_if<double>(&value))
+        text = QLocale().toString(*number, 'f', definition.decimals);
+    else if (const auto* integer = std::get_if<std::int32_t>(&value))
+        text = QString::number(*integer);
+    else if (const auto* flag = std::get_if<bool>(&value))
+        text = Text(*flag ? QStringLiteral("UI_PROPERTIES_YES") : QStringLiteral("UI_PROPERTIES_NO"));
+    else if (const auto* string = std::get_if<QString>(&value))
+        text = *string;
+    return definition.units.isEmpty() ? text : text + QLatin1Char(' ') + definition.units;
 }
+
+constexpr int c_summaryValues = 4;
 
 } // namespace
 
@@ -50,48 +54,50 @@ SampleObjectsModel::SampleObjectsModel(QObject* parent)
     auto catalog = ServiceCatalog::Global();
     m_model = catalog->Get<StructuralModel>();
     if (auto bus = catalog->Get<EventBus>()) {
-        m_selectionConnection = bus->Subscribe<SelectionChangedEvent>([this](const SelectionChangedEvent&) {
-            RefreshRows(m_rows, { selectedRole });
-            emit selectedCountChanged();
-        });
+        m_selectionConnection = bus->Subscribe<SelectionChangedEvent>(
+            [this](const SelectionChangedEvent&) { OnSelectionChanged(); });
         m_valuesConnection = bus->Subscribe<ObjectValuesChangedEvent>(
-            [this](const ObjectValuesChangedEvent& event) { RefreshRows(event.objects, {}); });
+            [this](const ObjectValuesChangedEvent& event) { OnValuesChanged(event.objects); });
         m_structureConnection
-            = bus->Subscribe<StructureChangedEvent>([this](const StructureChangedEvent&) { Reload(); });
+            = bus->Subscribe<StructureChangedEvent>([this](const StructureChangedEvent& event) {
+                  if (event.kinds.empty() || std::count(event.kinds.begin(), event.kinds.end(), m_kind))
+                      Reload();
+              });
     }
     Reload();
+    OnSelectionChanged();
 }
 
 SampleObjectsModel::~SampleObjectsModel() = default;
 
 int SampleObjectsModel::rowCount(const QModelIndex& parent) const
 {
-    return parent.isValid() ? 0 : static_cast<int>(m_rows.size());
+    return parent.isValid() ? 0 : m_rowCount;
 }
 
 QVariant SampleObjectsModel::data(const QModelIndex& index, int role) const
 {
     if (!index.isValid() || !checkIndex(index, CheckIndexOption::ParentIsInvalid) || !m_model)
         return {};
-    const StructuralObject* object = m_model->FindObject(m_rows[static_cast<std::size_t>(index.row())]);
-    if (!object)
-        return {};
+    const ObjectId id = IdAt(index.row());
     switch (role) {
     case numberRole:
-        return object->Id();
+        return NumberOf(id);
     case typeNameRole:
-        return Text(object->Type().NameId());
+        return Text(ModelMessage::KindNameId(m_kind));
     case Qt::DisplayRole:
-    case nameRole:
-        return std::get<QString>(object->Value("general.name"));
-    case summaryRole:
-        return Summary(*object);
-    case colorRole:
-        return std::get<QColor>(object->Value("display.color"));
-    case selectedRole: {
-        const auto& selection = m_model->Selection();
-        return std::find(selection.begin(), selection.end(), object->Id()) != selection.end();
+    case nameRole: {
+        const auto name = m_model->Value(id, QStringLiteral("general.name"));
+        return name ? std::get<QString>(*name) : QString();
     }
+    case summaryRole:
+        return Summary(id);
+    case colorRole: {
+        const auto colour = m_model->Value(id, QStringLiteral("display.color"));
+        return colour ? std::get<QColor>(*colour) : QColor(Qt::gray);
+    }
+    case selectedRole:
+        return m_selected.count(id) > 0;
     default:
         return {};
     }
@@ -103,20 +109,53 @@ QHash<int, QByteArray> SampleObjectsModel::roleNames() const
              { summaryRole, "summary" }, { colorRole, "objectColor" }, { selectedRole, "selected" } };
 }
 
+QString SampleObjectsModel::kind() const
+{
+    return m_model ? m_model->Type(m_kind).Key() : QString();
+}
+
+void SampleObjectsModel::setKind(const QString& key)
+{
+    const ObjectType* type = m_model ? m_model->FindType(key) : nullptr;
+    if (!type || type->Kind() == m_kind)
+        return;
+    m_kind = type->Kind();
+    Reload();
+    emit kindChanged();
+}
+
+QStringList SampleObjectsModel::kinds() const
+{
+    QStringList keys;
+    for (ObjectKind kind : c_allKinds)
+        keys << (m_model ? m_model->Type(kind).Key() : QString());
+    return keys;
+}
+
+QStringList SampleObjectsModel::kindNames() const
+{
+    QStringList names;
+    for (ObjectKind kind : c_allKinds)
+        names << Text(ModelMessage::KindPluralNameId(kind));
+    return names;
+}
+
 int SampleObjectsModel::selectedCount() const
 {
-    return m_model ? static_cast<int>(m_model->Selection().size()) : 0;
+    return int(m_selected.size());
 }
 
 void SampleObjectsModel::click(int row, int modifiers)
 {
     if (!m_model || row < 0 || row >= rowCount())
         return;
-    const ObjectId id = m_rows[static_cast<std::size_t>(row)];
+    const ObjectId id = IdAt(row);
     std::vector<ObjectId> selection = m_model->Selection();
     if (modifiers & Qt::ShiftModifier && m_anchorRow >= 0) {
         const auto [first, last] = std::minmax(m_anchorRow, row);
-        selection.assign(m_rows.begin() + first, m_rows.begin() + last + 1);
+        selection.clear();
+        for (int r = first; r <= last; ++r)
+            selection.push_back(IdAt(r));
     } else if (modifiers & Qt::ControlModifier) {
         auto selected = std::find(selection.begin(), selection.end(), id);
         if (selected == selection.end())
@@ -131,16 +170,10 @@ void SampleObjectsModel::click(int row, int modifiers)
     m_model->Select(selection);
 }
 
-void SampleObjectsModel::selectKind(const QString& typeKey)
+void SampleObjectsModel::selectAll()
 {
-    if (!m_model)
-        return;
-    std::vector<ObjectId> selection;
-    for (const StructuralObject* object : m_model->Objects()) {
-        if (typeKey.isEmpty() || object->Type().Key() == typeKey)
-            selection.push_back(object->Id());
-    }
-    m_model->Select(selection);
+    if (m_model)
+        m_model->Select(m_model->Objects(m_kind));
 }
 
 void SampleObjectsModel::clearSelection()
@@ -151,47 +184,61 @@ void SampleObjectsModel::clearSelection()
 
 void SampleObjectsModel::Reload()
 {
-    // Objects came or went; the demo's list is short.
     beginResetModel();
-    m_rows.clear();
-    if (m_model) {
-        for (const StructuralObject* object : m_model->Objects())
-            m_rows.push_back(object->Id());
-    }
+    m_rowCount = m_model ? int(m_model->Structure().Count(m_kind)) : 0;
     m_anchorRow = -1;
     endResetModel();
 }
 
-void SampleObjectsModel::RefreshRows(const std::vector<ObjectId>& ids, const QList<int>& roles)
+void SampleObjectsModel::OnSelectionChanged()
 {
+    m_selected.clear();
+    if (m_model)
+        m_selected.insert(m_model->Selection().begin(), m_model->Selection().end());
+    if (m_rowCount > 0)
+        emit dataChanged(index(0), index(m_rowCount - 1), { selectedRole });
+    emit selectedCountChanged();
+}
+
+void SampleObjectsModel::OnValuesChanged(const std::vector<ObjectId>& ids)
+{
+    // Rows are the kind's table: an object's row is its index there.
+    int first = m_rowCount;
+    int last = -1;
     for (ObjectId id : ids) {
-        const int row = RowOf(id);
-        if (row >= 0)
-            emit dataChanged(index(row), index(row), roles);
+        if (KindOf(id) != m_kind)
+            continue;
+        if (const auto row = m_model->IndexOf(id)) {
+            first = std::min(first, int(*row));
+            last = std::max(last, int(*row));
+        }
     }
+    if (last >= 0)
+        emit dataChanged(index(first), index(last));
 }
 
-// The values that tell objects of a kind apart at a glance.
-QString SampleObjectsModel::Summary(const StructuralObject& object) const
+ObjectId SampleObjectsModel::IdAt(int row) const
 {
-    const QString kind = object.Type().Key();
-    const auto value = [&object](const char* key) { return Format(object, QString::fromLatin1(key)); };
-    if (kind == QLatin1String("node"))
-        return Text("UI_DEMO_NODE_SUMMARY")
-            .arg(value("node.x"), value("node.y"), value("node.z"), value("node.supportType"));
-    if (kind == QLatin1String("member"))
-        return Text("UI_DEMO_MEMBER_SUMMARY")
-            .arg(value("member.startNode"), value("member.endNode"), value("member.sectionShape"),
-                 value("member.height"), value("member.width"), value("member.material"));
-    if (kind == QLatin1String("loadCase"))
-        return Text("UI_DEMO_LOAD_CASE_SUMMARY")
-            .arg(value("loadCase.actionCategory"), value("loadCase.partialFactor"),
-                 value("loadCase.selfWeight"));
-    return {};
+    return VisitKind(m_kind, [this, row](auto tag) {
+        using Record = typename decltype(tag)::Type;
+        return MakeObjectId(m_kind, m_model->Structure().Table<Record>().At(std::size_t(row)).number);
+    });
 }
 
-int SampleObjectsModel::RowOf(ObjectId id) const
+// The first values of the object's type that tell objects of a kind apart at a glance.
+QString SampleObjectsModel::Summary(ObjectId id) const
 {
-    auto it = std::find(m_rows.begin(), m_rows.end(), id);
-    return it == m_rows.end() ? -1 : static_cast<int>(it - m_rows.begin());
+    QStringList parts;
+    for (const PropertyDefinition& definition : m_model->Type(m_kind).Properties()) {
+        if (definition.key == StructuralModel::c_numberProperty || definition.type == PropertyType::String
+            || definition.type == PropertyType::Color || !definition.basic)
+            continue;
+        const auto value = m_model->Value(id, definition.key);
+        if (!value)
+            continue;
+        parts << QStringLiteral("%1 %2").arg(Text(definition.nameId), Format(definition, *value));
+        if (parts.size() == c_summaryValues)
+            break;
+    }
+    return parts.join(QStringLiteral(" · "));
 }

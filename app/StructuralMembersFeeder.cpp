@@ -1,7 +1,9 @@
 #include "StructuralMembersFeeder.h"
 
 #include "plugin/QtComponentsText.h"
+#include "tables/NaturalTextOrder.h"
 #include "tables/TableColorPalette.h"
+#include "tables/TableNumberText.h"
 
 #include <QtGlobal>
 #include <algorithm>
@@ -80,10 +82,7 @@ StructuralMembersFeeder::StructuralMembersFeeder(QObject* parent)
             &StructuralMembersFeeder::OnUpdateDataRequest);
     connect(&m_model, &TableContentModel::executeActionRequest, this,
             &StructuralMembersFeeder::OnExecuteActionRequest);
-}
 
-void StructuralMembersFeeder::Start()
-{
     QHash<QString, QString> colorNames;
     for (int i = 0; i < TableColorPalette::GetCount(); ++i)
         colorNames.insert(TableColorPalette::GetKey(i), GetText(TableColorPalette::GetKey(i)));
@@ -140,12 +139,18 @@ void StructuralMembersFeeder::SortMembers()
     std::vector<QVariant> keys(m_memberOfRow.size());
     for (std::size_t member = 0; member < keys.size(); ++member)
         keys[member] = CellOf(static_cast<int>(member), id).content;
+    // Texts sort the way the table's filters compare them: B5 before B1000, case ignored.
+    std::vector<std::wstring> texts;
+    if (!numeric) {
+        texts.reserve(keys.size());
+        for (const QVariant& key : keys)
+            texts.push_back(key.toString().toStdWString());
+    }
     auto less = [&](int a, int b) {
-        const QVariant& left = keys[static_cast<std::size_t>(a)];
-        const QVariant& right = keys[static_cast<std::size_t>(b)];
+        const auto index = [](int member) { return static_cast<std::size_t>(member); };
         if (numeric)
-            return left.toDouble() < right.toDouble();
-        return QString::compare(left.toString(), right.toString(), Qt::CaseInsensitive) < 0;
+            return keys[index(a)].toDouble() < keys[index(b)].toDouble();
+        return NaturalTextOrder::Before(texts[index(a)], texts[index(b)]);
     };
     if (sorted->column.sortOrder == TableContentModel::Ascending)
         std::stable_sort(m_memberOfRow.begin(), m_memberOfRow.end(), less);
@@ -187,7 +192,9 @@ TableCellContent StructuralMembersFeeder::CellOf(int member, const QString& colu
         if (cell.valueType == TableValueType::Bool)
             cell.content = parameter == 0;
     } else if (cell.valueType == TableValueType::Real || cell.valueType == TableValueType::Integer) {
-        cell.content = value.toString().replace(QLatin1Char(','), QLatin1Char('.')).toDouble();
+        // The table sends numbers as the user wrote them (decimal comma, expression): read
+        // them the way the table itself does.
+        cell.content = TableNumberText::Parse(value.toString()).value_or(0.0);
     } else if (cell.valueType == TableValueType::Bool) {
         cell.content = value.toString() != QLatin1String("0");
     } else {

@@ -10,9 +10,11 @@
 // The demo's table controller: a structural model of 100,000 members whose properties are computed
 // from the member number (so they cost nothing until shown), with the user's edits kept on top.
 // It answers the content model's requests the way the host's table controllers do.
+// A page creates one and shows its model; it is ready when created.
 class StructuralMembersFeeder : public QObject
 {
     Q_OBJECT
+    Q_PROPERTY(Orvo::UI::UIComponents::TableContentModel* model READ GetModel CONSTANT)
 
 public:
     static constexpr int c_memberCount = 100'000;
@@ -20,7 +22,6 @@ public:
     explicit StructuralMembersFeeder(QObject* parent = nullptr);
 
     Orvo::UI::UIComponents::TableContentModel* GetModel() { return &m_model; }
-    void Start();
 
 private:
     struct ColumnDefinition

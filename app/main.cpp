@@ -4,11 +4,15 @@
 #include "SampleObjectsModel.h"
 #include "ScreenshotTaker.h"
 #include "StructuralMembersFeeder.h"
+#include "ViewControls.h"
 
+#include "analysis/AnalysisService.h"
+#include "datamodel/Settings.h"
 #include "framework/HostApplication.h"
 #include "framework/ServiceCatalog.h"
+#include "graphic/GraphicTypes.h"
 #include "kernel/PathText.h"
-#include "properties/SampleStructure.h"
+#include "model/ModelGenerator.h"
 #include "properties/StructuralModel.h"
 #include "qtextensions/ShellQmlContext.h"
 
@@ -23,10 +27,10 @@
 
 namespace {
 
-bool WantsScreenshot(int argc, char** argv)
+bool HasArgument(int argc, char** argv, const char* argument, const char* value = nullptr)
 {
     for (int i = 1; i < argc; ++i) {
-        if (qstrcmp(argv[i], "--screenshot") == 0)
+        if (qstrcmp(argv[i], argument) == 0 && (!value || (i + 1 < argc && qstrcmp(argv[i + 1], value) == 0)))
             return true;
     }
     return false;
@@ -36,7 +40,8 @@ bool WantsScreenshot(int argc, char** argv)
 
 int main(int argc, char** argv)
 {
-    if (WantsScreenshot(argc, argv)) {
+    // A screenshot of the OpenGL renderer needs a display with OpenGL (xvfb-run does).
+    if (HasArgument(argc, argv, "--screenshot") && !HasArgument(argc, argv, "--renderer", "opengl")) {
         // A screenshot needs no display: render offscreen with the software scene graph.
         if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
             qputenv("QT_QPA_PLATFORM", "offscreen");
@@ -49,24 +54,38 @@ int main(int argc, char** argv)
 
     const DemoOptions options = DemoOptions::Parse(QGuiApplication::arguments());
     if (!options.valid) {
-        std::fprintf(stderr,
-                     "%s\nUsage: QtComponentsDemo [--page NAME] [--hold-marking-menu] [--screenshot FILE "
-                     "[--delay MS]]\n",
-                     qPrintable(options.error));
+        std::fprintf(
+            stderr,
+            "%s\nUsage: QtComponentsDemo [--page NAME] [--model-size MEMBERS] [--renderer software|opengl] "
+            "[--hold-marking-menu] [--screenshot FILE [--delay MS]]\n",
+            qPrintable(options.error));
         return 2;
     }
 
     auto services = Orvo::Kernel::Framework::HostApplication::Start(
         Orvo::Kernel::Directories::ToPath(QGuiApplication::applicationDirPath()));
-    // The demo's model: a small frame whose objects the pages select and edit.
-    Orvo::Kernel::Framework::SampleStructure::Fill(
-        *services->Get<Orvo::Kernel::Framework::StructuralModel>());
+    // The demo's model: a multi-storey building whose objects the pages select, edit and analyse.
+    const auto building = options.modelSize > 0
+        ? Orvo::Kernel::Model::BuildingOptions::ForMemberCount(options.modelSize)
+        : Orvo::Kernel::Model::BuildingOptions();
+    services->Get<Orvo::Kernel::Framework::StructuralModel>()->Replace(
+        [&building](Orvo::Kernel::Model::Structure& structure) {
+            Orvo::Kernel::Model::ModelGenerator::Building(structure, building);
+        });
+    if (!options.renderer.isEmpty()) {
+        const auto renderer = options.renderer == QLatin1String("opengl")
+            ? Orvo::Graphic::RendererType::OpenGL
+            : Orvo::Graphic::RendererType::Software;
+        services->Get<Orvo::UI::DataModel::Settings>()->SetValue(
+            Orvo::UI::DataModel::Settings::c_rendererType, int(renderer));
+    }
     qmlRegisterType<SampleObjectsModel>("Demo", 1, 0, "SampleObjectsModel");
+    qmlRegisterType<ViewControls>("Demo", 1, 0, "ViewControls");
+    qmlRegisterType<StructuralMembersFeeder>("Demo", 1, 0, "StructuralMembersFeeder");
 
     // Declared before the engine, which must be gone before the objects its bindings read.
     CommandActivity commandActivity;
-    StructuralMembersFeeder membersFeeder;
-    membersFeeder.Start();
+    ViewControls viewControls;
     QQmlApplicationEngine engine;
     // The build lays the QML import directory out beside bin/.
     engine.addImportPath(
@@ -74,8 +93,10 @@ int main(int argc, char** argv)
     // The shell's context: what panels publish there (the hotkey handler's model) every page sees.
     services->Get<Orvo::UI::QtExtensions::ShellQmlContext>()->SetContext(engine.rootContext());
     engine.rootContext()->setContextProperty(QStringLiteral("initialPage"), options.page);
-    engine.rootContext()->setContextProperty(QStringLiteral("membersTable"), membersFeeder.GetModel());
     engine.rootContext()->setContextProperty(QStringLiteral("commandActivity"), &commandActivity);
+    engine.rootContext()->setContextProperty(QStringLiteral("viewControls"), &viewControls);
+    engine.rootContext()->setContextProperty(QStringLiteral("analysis"),
+                                             services->Get<Orvo::Kernel::Analysis::AnalysisService>().get());
     QObject::connect(
         &engine, &QQmlApplicationEngine::objectCreationFailed, &application,
         []() { QCoreApplication::exit(1); }, Qt::QueuedConnection);

@@ -10,11 +10,12 @@ packages=(
     qml6-module-qtqml qml6-module-qtqml-models qml6-module-qtqml-workerscript
     qml6-module-qtquick qml6-module-qtquick-window qml6-module-qtquick-templates
     qml6-module-qtquick-controls qml6-module-qtquick-layouts qml6-module-qtquick-shapes
-    qml6-module-qttest
+    qml6-module-qttest qml-qt6 qt6-qmllint-plugins
     libqt6svg6
     libgl-dev libvulkan-dev libxkbcommon-dev
     libpugixml-dev libmuparser-dev libbenchmark-dev
-    xvfb xauth
+    libeigen3-dev libqt6sql6-sqlite
+    xvfb xauth libgl1-mesa-dri libglx-mesa0 libegl-mesa0
 )
 
 missing=()

@@ -11,13 +11,77 @@
         <source>Ready</source>
         <translation>Ready</translation>
     </message>
+    <message id="UI_APP_NUMBER_FORMAT">
+        <source>Numbers</source>
+        <translation>Numbers</translation>
+    </message>
+    <message id="UI_APP_NUMBER_FORMAT_POINT">
+        <source>1.5 (decimal point)</source>
+        <translation>1.5 (decimal point)</translation>
+    </message>
+    <message id="UI_APP_NUMBER_FORMAT_COMMA">
+        <source>1,5 (decimal comma)</source>
+        <translation>1,5 (decimal comma)</translation>
+    </message>
     <message id="UI_APP_PAGE_OVERVIEW">
         <source>Overview</source>
         <translation>Overview</translation>
     </message>
     <message id="UI_APP_OVERVIEW_TEXT">
-        <source>Components</source>
-        <translation>Tables, numeric inputs, the marking menu, the properties panel and keyboard shortcuts of the structural model.</translation>
+        <source>The working parts of a structural-engineering application's user interface, as one Qt Quick module: tables of a hundred thousand rows with filters and multi-cell editing, numeric inputs that take expressions with units, a radial marking menu, a foldable properties panel and keyboard shortcuts. Each part below is live; its page shows it at work.</source>
+        <translation>The working parts of a structural-engineering application's user interface, as one Qt Quick module: tables of a hundred thousand rows with filters and multi-cell editing, numeric inputs that take expressions with units, a radial marking menu, a foldable properties panel and keyboard shortcuts. Each part below is live; its page shows it at work.</translation>
+    </message>
+    <message id="UI_APP_OVERVIEW_TITLE">
+        <source>QtComponents</source>
+        <translation>QtComponents</translation>
+    </message>
+    <message id="UI_APP_OVERVIEW_TYPES">
+        <source>types registered in %1</source>
+        <translation>types registered in %1</translation>
+    </message>
+    <message id="UI_APP_OVERVIEW_MODULES">
+        <source>modules of the component library</source>
+        <translation>modules of the component library</translation>
+    </message>
+    <message id="UI_APP_OVERVIEW_LANGUAGE">
+        <source>language of the string table</source>
+        <translation>language of the string table</translation>
+    </message>
+    <message id="UI_APP_OVERVIEW_OPEN_PAGE">
+        <source>Open the page</source>
+        <translation>Open the page</translation>
+    </message>
+    <message id="UI_APP_OVERVIEW_VALUE_ENTRY">
+        <source>Numbers or expressions, converted into the field's unit or refused with the reason. Try =30cm here.</source>
+        <translation>Numbers or expressions, converted into the field's unit or refused with the reason. Try =30cm here.</translation>
+    </message>
+    <message id="UI_APP_OVERVIEW_MARKING_MENU">
+        <source>Hold the right mouse button over a view: four sections, six commands each, kept as XML. This is its Model ring.</source>
+        <translation>Hold the right mouse button over a view: four sections, six commands each, kept as XML. This is its Model ring.</translation>
+    </message>
+    <message id="UI_APP_OVERVIEW_PROPERTIES">
+        <source>Every property of the selected objects, by category, folded and filtered; several objects edited at once, one undo step.</source>
+        <translation>Every property of the selected objects, by category, folded and filtered; several objects edited at once, one undo step.</translation>
+    </message>
+    <message id="UI_APP_OVERVIEW_TABLES">
+        <source>100,000 members in input and result tables: a filter under every column, sorting, editing, multi-edit, copy and paste.</source>
+        <translation>100,000 members in input and result tables: a filter under every column, sorting, editing, multi-edit, copy and paste.</translation>
+    </message>
+    <message id="UI_APP_OVERVIEW_SHORTCUTS">
+        <source>Application-wide shortcuts from the command repository, recorded by pressing them, off while a message box is open.</source>
+        <translation>Application-wide shortcuts from the command repository, recorded by pressing them, off while a message box is open.</translation>
+    </message>
+    <message id="UI_APP_OVERVIEW_CALCULATOR">
+        <source>Calculator</source>
+        <translation>Calculator</translation>
+    </message>
+    <message id="UI_APP_OVERVIEW_CALCULATOR_TEXT">
+        <source>The host's calculator knows the units of structural work and their dimensions.</source>
+        <translation>The host's calculator knows the units of structural work and their dimensions.</translation>
+    </message>
+    <message id="UI_STRING_TABLE_LANGUAGE">
+        <source>English (en)</source>
+        <translation>English (en)</translation>
     </message>
     <message id="UI_CHOICE_ACTION_IMPOSED">
         <source>Imposed</source>
@@ -375,6 +439,86 @@
         <source>%1 is outside %2 … %3</source>
         <translation>%1 is outside %2 … %3</translation>
     </message>
+    <message id="UI_NUMERIC_INPUT_NOT_A_NUMBER">
+        <source>%1 is not a number</source>
+        <translation>%1 is not a number</translation>
+    </message>
+    <message id="UI_NUMERIC_INPUT_NO_EXPRESSIONS">
+        <source>This field takes numbers only, no expressions</source>
+        <translation>This field takes numbers only, no expressions</translation>
+    </message>
+    <message id="UI_COORDINATES_COUNT">
+        <source>This field takes %1 values (%2); there are %3</source>
+        <translation>This field takes %1 values (%2); there are %3</translation>
+    </message>
+    <message id="UI_COORDINATES_INVALID_VALUE">
+        <source>The value of %1 is no valid expression</source>
+        <translation>The value of %1 is no valid expression</translation>
+    </message>
+    <message id="UI_CALC_TOO_LONG">
+        <source>The expression is longer than %1 characters</source>
+        <translation>The expression is longer than %1 characters</translation>
+    </message>
+    <message id="UI_CALC_UNITS_DO_NOT_FIT">
+        <source>These units do not fit together: %1</source>
+        <translation>These units do not fit together: %1</translation>
+    </message>
+    <message id="UI_CALC_UNIT_OF_OTHER_QUANTITY">
+        <source>%1 is %2; this field takes %3</source>
+        <translation>%1 is %2; this field takes %3</translation>
+    </message>
+    <message id="UI_CALC_RESULT_OF_OTHER_QUANTITY">
+        <source>The expression gives %1; this field takes %2</source>
+        <translation>The expression gives %1; this field takes %2</translation>
+    </message>
+    <message id="UI_QUANTITY_NUMBER">
+        <source>a number</source>
+        <translation>a number</translation>
+    </message>
+    <message id="UI_QUANTITY_ANGLE">
+        <source>an angle</source>
+        <translation>an angle</translation>
+    </message>
+    <message id="UI_QUANTITY_LENGTH">
+        <source>a length</source>
+        <translation>a length</translation>
+    </message>
+    <message id="UI_QUANTITY_AREA">
+        <source>an area</source>
+        <translation>an area</translation>
+    </message>
+    <message id="UI_QUANTITY_VOLUME">
+        <source>a volume</source>
+        <translation>a volume</translation>
+    </message>
+    <message id="UI_QUANTITY_SECOND_MOMENT_OF_AREA">
+        <source>a second moment of area</source>
+        <translation>a second moment of area</translation>
+    </message>
+    <message id="UI_QUANTITY_FORCE">
+        <source>a force</source>
+        <translation>a force</translation>
+    </message>
+    <message id="UI_QUANTITY_FORCE_PER_LENGTH">
+        <source>a force per length</source>
+        <translation>a force per length</translation>
+    </message>
+    <message id="UI_QUANTITY_STRESS">
+        <source>a stress</source>
+        <translation>a stress</translation>
+    </message>
+    <message id="UI_QUANTITY_WEIGHT_PER_VOLUME">
+        <source>a weight per volume</source>
+        <translation>a weight per volume</translation>
+    </message>
+    <message id="UI_QUANTITY_MOMENT">
+        <source>a moment</source>
+        <translation>a moment</translation>
+    </message>
+    <message id="UI_QUANTITY_OTHER">
+        <source>another quantity</source>
+        <translation>another quantity</translation>
+    </message>
     <message id="UI_APP_PAGE_VALUE_ENTRY">
         <source>Value entry</source>
         <translation>Value entry</translation>
@@ -384,8 +528,8 @@
         <translation>Numeric inputs</translation>
     </message>
     <message id="UI_VALUE_ENTRY_HINT">
-        <source>Type a number, or start with "=" to type an expression: =2*500mm, =sin(30deg), =max(1,5; 2). An expression with units is converted to the unit of its field: =30cm in a field in m gives 0.3, =45deg in a field in degrees gives 45.</source>
-        <translation>Type a number, or start with "=" to type an expression: =2*500mm, =sin(30deg), =max(1,5; 2). An expression with units is converted to the unit of its field: =30cm in a field in m gives 0.3, =45deg in a field in degrees gives 45.</translation>
+        <source>Type a number, or start with "=" to type an expression: =2*500mm, =sin(30deg), =max(1; 2). An expression with units is converted to the unit of its field (=30cm in a field in mm gives 300); a unit of another quantity is refused with the reason (=5kN in a field in m). Numbers are written with the decimal mark chosen at the top right; typed numbers may use either mark.</source>
+        <translation>Type a number, or start with "=" to type an expression: =2*500mm, =sin(30deg), =max(1; 2). An expression with units is converted to the unit of its field (=30cm in a field in mm gives 300); a unit of another quantity is refused with the reason (=5kN in a field in m). Numbers are written with the decimal mark chosen at the top right; typed numbers may use either mark.</translation>
     </message>
     <message id="UI_VALUE_ENTRY_LENGTH">
         <source>Span length</source>
@@ -398,6 +542,14 @@
     <message id="UI_VALUE_ENTRY_COUNT">
         <source>Number of bolts (1 to 50)</source>
         <translation>Number of bolts (1 to 50)</translation>
+    </message>
+    <message id="UI_VALUE_ENTRY_FORCE">
+        <source>Support reaction</source>
+        <translation>Support reaction</translation>
+    </message>
+    <message id="UI_VALUE_ENTRY_LINE_LOAD">
+        <source>Line load</source>
+        <translation>Line load</translation>
     </message>
     <message id="UI_VALUE_ENTRY_STORED">
         <source>Stored value</source>
@@ -418,6 +570,18 @@
     <message id="UI_VALUE_ENTRY_EXAMPLES">
         <source>Expressions evaluated by the calculator</source>
         <translation>Expressions evaluated by the calculator</translation>
+    </message>
+    <message id="UI_VALUE_ENTRY_EXAMPLE_TYPED">
+        <source>Typed</source>
+        <translation>Typed</translation>
+    </message>
+    <message id="UI_VALUE_ENTRY_EXAMPLE_FIELD_UNIT">
+        <source>Field in</source>
+        <translation>Field in</translation>
+    </message>
+    <message id="UI_VALUE_ENTRY_EXAMPLE_RESULT">
+        <source>Stored, or why not</source>
+        <translation>Stored, or why not</translation>
     </message>
     <message id="UI_PROPERTIES_MIXED">
         <source>Mixed</source>
@@ -467,18 +631,6 @@
         <source>The selected objects have no basic property in common. Switch to Advanced to see all of them.</source>
         <translation>The selected objects have no basic property in common. Switch to Advanced to see all of them.</translation>
     </message>
-    <message id="UI_DEMO_NODE_SUMMARY">
-        <source>(%1; %2; %3) m  ·  %4</source>
-        <translation>(%1; %2; %3) m  ·  %4</translation>
-    </message>
-    <message id="UI_DEMO_MEMBER_SUMMARY">
-        <source>%1 → %2  ·  %3 %4 × %5 mm  ·  %6</source>
-        <translation>%1 → %2  ·  %3 %4 × %5 mm  ·  %6</translation>
-    </message>
-    <message id="UI_DEMO_LOAD_CASE_SUMMARY">
-        <source>%1  ·  γF %2  ·  self-weight %3</source>
-        <translation>%1  ·  γF %2  ·  self-weight %3</translation>
-    </message>
     <message id="UI_APP_PAGE_PROPERTIES">
         <source>Properties</source>
         <translation>Properties</translation>
@@ -490,18 +642,6 @@
     <message id="UI_DEMO_OBJECTS_HINT">
         <source>Click an object to select it, Ctrl-click to add or remove one, Shift-click for a range. The panel edits every selected object at once; the list shows their values change.</source>
         <translation>Click an object to select it, Ctrl-click to add or remove one, Shift-click for a range. The panel edits every selected object at once; the list shows their values change.</translation>
-    </message>
-    <message id="UI_DEMO_SELECT_NODES">
-        <source>Nodes</source>
-        <translation>Nodes</translation>
-    </message>
-    <message id="UI_DEMO_SELECT_MEMBERS">
-        <source>Members</source>
-        <translation>Members</translation>
-    </message>
-    <message id="UI_DEMO_SELECT_LOAD_CASES">
-        <source>Load cases</source>
-        <translation>Load cases</translation>
     </message>
     <message id="UI_DEMO_SELECT_ALL">
         <source>All</source>
@@ -574,6 +714,30 @@
     <message id="UI_MARKING_MENU_SECTION_EDIT">
         <source>Edit</source>
         <translation>Edit</translation>
+    </message>
+    <message id="UI_MARKING_MENU_COMMAND_UNAVAILABLE">
+        <source>%1 cannot run now</source>
+        <translation>%1 cannot run now</translation>
+    </message>
+    <message id="UI_COMMAND_ORIGIN_MARKING_MENU">
+        <source>Marking menu</source>
+        <translation>Marking menu</translation>
+    </message>
+    <message id="UI_COMMAND_ORIGIN_HOTKEY_HANDLER">
+        <source>Keyboard shortcut</source>
+        <translation>Keyboard shortcut</translation>
+    </message>
+    <message id="UI_COMMAND_ORIGIN_SPOTLIGHT">
+        <source>Search</source>
+        <translation>Search</translation>
+    </message>
+    <message id="UI_COMMAND_ORIGIN_MENU_SYSTEM">
+        <source>Menu</source>
+        <translation>Menu</translation>
+    </message>
+    <message id="UI_COMMAND_ORIGIN_INPUT_PANEL">
+        <source>Input panel</source>
+        <translation>Input panel</translation>
     </message>
     <message id="UI_COMMAND_NEW_NODE">
         <source>New node</source>
@@ -796,8 +960,8 @@
         <translation>Tables</translation>
     </message>
     <message id="UI_DEMO_TABLES_HINT">
-        <source>Structural members of the model. Type a filter under a column title (5, &lt;=5, [2;4], S355), click a title to sort, drag its edge to resize or the title itself to move the column. Double-click or start typing to edit; numbers may be expressions such as 2*1,5. The last line (*) adds a member. Ctrl+C and Ctrl+V copy and paste; the box above edits every selected cell at once (+5, *2, ~0.5, &gt;S355, ?IPE).</source>
-        <translation>Structural members of the model. Type a filter under a column title (5, &lt;=5, [2;4], S355), click a title to sort, drag its edge to resize or the title itself to move the column. Double-click or start typing to edit; numbers may be expressions such as 2*1,5. The last line (*) adds a member. Ctrl+C and Ctrl+V copy and paste; the box above edits every selected cell at once (+5, *2, ~0.5, &gt;S355, ?IPE).</translation>
+        <source>Structural members of the model. Type a filter under a column title (5, &lt;=5, [2;4], S355) and press Enter to apply it, click a title to sort, drag its edge to resize or the title itself to move the column. Double-click or start typing to edit; numbers may be expressions with units such as =2*1,5 or 2500mm. Ctrl+Home and Ctrl+End go to the first and the last line. The last line (*) adds a member. Ctrl+C and Ctrl+V copy and paste; the box above edits every selected cell at once (+5, *2, ~0.5, &gt;S355, ?IPE).</source>
+        <translation>Structural members of the model. Type a filter under a column title (5, &lt;=5, [2;4], S355) and press Enter to apply it, click a title to sort, drag its edge to resize or the title itself to move the column. Double-click or start typing to edit; numbers may be expressions with units such as =2*1,5 or 2500mm. Ctrl+Home and Ctrl+End go to the first and the last line. The last line (*) adds a member. Ctrl+C and Ctrl+V copy and paste; the box above edits every selected cell at once (+5, *2, ~0.5, &gt;S355, ?IPE).</translation>
     </message>
     <message id="UI_DEMO_TABLES_STATUS">
         <source>%1 of %2 members shown</source>
@@ -891,9 +1055,65 @@
         <source>Filter</source>
         <translation>Filter</translation>
     </message>
+    <message id="UI_TABLE_FILTER_NOT_UNDERSTOOD">
+        <source>This filter is not understood. Write a comparison such as &lt;=5 or &lt;&gt;S355, a range such as [2;4], or a text to look for.</source>
+        <translation>This filter is not understood. Write a comparison such as &lt;=5 or &lt;&gt;S355, a range such as [2;4], or a text to look for.</translation>
+    </message>
     <message id="UI_APP_PAGE_SHORTCUTS">
         <source>Shortcuts</source>
         <translation>Keyboard shortcuts</translation>
+    </message>
+    <message id="UI_APP_PAGE_ANALYSIS">
+        <source>Analysis</source>
+        <translation>Analysis</translation>
+    </message>
+    <message id="UI_DEMO_ANALYSIS">
+        <source>Linear analysis</source>
+        <translation>Linear analysis</translation>
+    </message>
+    <message id="UI_DEMO_ANALYSIS_HINT">
+        <source>The structural model every page shows, analysed by the direct stiffness method on a thread of its own: the window stays responsive, and the analysis can be stopped. Start the demo with --model-size MEMBERS for a bigger building.</source>
+        <translation>The structural model every page shows, analysed by the direct stiffness method on a thread of its own: the window stays responsive, and the analysis can be stopped. Start the demo with --model-size MEMBERS for a bigger building.</translation>
+    </message>
+    <message id="UI_DEMO_ANALYSE">
+        <source>Analyse</source>
+        <translation>Analyse</translation>
+    </message>
+    <message id="UI_DEMO_STOP">
+        <source>Stop</source>
+        <translation>Stop</translation>
+    </message>
+    <message id="UI_DEMO_RESULTS_OUT_OF_DATE">
+        <source>The model has changed since the analysis: analyse again to update the results.</source>
+        <translation>The model has changed since the analysis: analyse again to update the results.</translation>
+    </message>
+    <message id="UI_DEMO_RESULTS_SUMMARY">
+        <source>Results summary</source>
+        <translation>Results summary</translation>
+    </message>
+    <message id="UI_DEMO_RESULTS_SUMMARY_HINT">
+        <source>Per load case and combination; the results tables read the same results from their database.</source>
+        <translation>Per load case and combination; the results tables read the same results from their database.</translation>
+    </message>
+    <message id="UI_DEMO_SUMMARY_SET">
+        <source>Load case / combination</source>
+        <translation>Load case / combination</translation>
+    </message>
+    <message id="UI_DEMO_SUMMARY_DISPLACEMENT">
+        <source>Largest displacement</source>
+        <translation>Largest displacement</translation>
+    </message>
+    <message id="UI_DEMO_SUMMARY_REACTIONS">
+        <source>Support reactions ΣFx / ΣFy / ΣFz</source>
+        <translation>Support reactions ΣFx / ΣFy / ΣFz</translation>
+    </message>
+    <message id="UI_DEMO_SUMMARY_MOMENT">
+        <source>Largest bending moment</source>
+        <translation>Largest bending moment</translation>
+    </message>
+    <message id="UI_DEMO_NO_RESULTS">
+        <source>No results yet.</source>
+        <translation>No results yet.</translation>
     </message>
     <message id="UI_APP_STATUS_LAST_COMMAND">
         <source>Last command</source>
@@ -908,8 +1128,8 @@
         <translation>Shortcut for %1:</translation>
     </message>
     <message id="UI_APP_SHORTCUTS_EDIT_PLACEHOLDER">
-        <source>Example</source>
-        <translation>For example Ctrl+Shift+K</translation>
+        <source>Press the keys (Ctrl+Shift+K), or type them (Del)</source>
+        <translation>Press the keys (Ctrl+Shift+K), or type them (Del)</translation>
     </message>
     <message id="UI_APP_SHORTCUTS_APPLY">
         <source>Apply</source>
@@ -922,6 +1142,22 @@
     <message id="UI_APP_SHORTCUTS_INVALID">
         <source>Invalid</source>
         <translation>“%1” is not a key sequence; the shortcut stays as it was.</translation>
+    </message>
+    <message id="UI_APP_SHORTCUTS_CONFLICT_TITLE">
+        <source>Shortcut in use</source>
+        <translation>Shortcut in use</translation>
+    </message>
+    <message id="UI_APP_SHORTCUTS_CONFLICT_TEXT">
+        <source>%1 already runs %2. Move it to %3? %2 then has no shortcut.</source>
+        <translation>%1 already runs %2. Move it to %3? %2 then has no shortcut.</translation>
+    </message>
+    <message id="UI_APP_SHORTCUTS_CONFLICT_MOVE">
+        <source>Move shortcut</source>
+        <translation>Move shortcut</translation>
+    </message>
+    <message id="UI_APP_SHORTCUTS_CONFLICT_KEEP">
+        <source>Keep as it is</source>
+        <translation>Keep as it is</translation>
     </message>
     <message id="UI_APP_SHORTCUTS_STATE_TITLE">
         <source>Shortcuts</source>
@@ -966,6 +1202,742 @@
     <message id="UI_APP_SHORTCUTS_LOG_ENTRY">
         <source>Log entry</source>
         <translation>%1 — by %2</translation>
+    </message>
+    <message id="UI_CHOICE_DIRECTION_GLOBAL_X">
+        <source>Global X</source>
+        <translation>Global X</translation>
+    </message>
+    <message id="UI_CHOICE_DIRECTION_GLOBAL_Y">
+        <source>Global Y</source>
+        <translation>Global Y</translation>
+    </message>
+    <message id="UI_CHOICE_DIRECTION_GLOBAL_Z">
+        <source>Global Z</source>
+        <translation>Global Z</translation>
+    </message>
+    <message id="UI_CHOICE_DIRECTION_LOCAL_Y">
+        <source>Local y</source>
+        <translation>Local y</translation>
+    </message>
+    <message id="UI_CHOICE_DIRECTION_LOCAL_Z">
+        <source>Local z</source>
+        <translation>Local z</translation>
+    </message>
+    <message id="UI_CHOICE_MATERIAL_C20">
+        <source>C20/25</source>
+        <translation>C20/25</translation>
+    </message>
+    <message id="UI_CHOICE_MATERIAL_C25">
+        <source>C25/30</source>
+        <translation>C25/30</translation>
+    </message>
+    <message id="UI_CHOICE_MATERIAL_C35">
+        <source>C35/45</source>
+        <translation>C35/45</translation>
+    </message>
+    <message id="UI_CHOICE_MATERIAL_C40">
+        <source>C40/50</source>
+        <translation>C40/50</translation>
+    </message>
+    <message id="UI_CHOICE_MATERIAL_C24">
+        <source>C24</source>
+        <translation>C24</translation>
+    </message>
+    <message id="UI_CHOICE_MATERIAL_GL28H">
+        <source>GL28h</source>
+        <translation>GL28h</translation>
+    </message>
+    <message id="UI_CHOICE_MATERIAL_STEEL">
+        <source>Steel</source>
+        <translation>Steel</translation>
+    </message>
+    <message id="UI_CHOICE_MATERIAL_CONCRETE">
+        <source>Concrete</source>
+        <translation>Concrete</translation>
+    </message>
+    <message id="UI_CHOICE_MATERIAL_TIMBER">
+        <source>Timber</source>
+        <translation>Timber</translation>
+    </message>
+    <message id="UI_CHOICE_MATERIAL_USER_DEFINED">
+        <source>User-defined</source>
+        <translation>User-defined</translation>
+    </message>
+    <message id="UI_CHOICE_RELEASE_RIGID">
+        <source>Rigid</source>
+        <translation>Rigid</translation>
+    </message>
+    <message id="UI_CHOICE_RELEASE_HINGE">
+        <source>Hinge (My, Mz)</source>
+        <translation>Hinge (My, Mz)</translation>
+    </message>
+    <message id="UI_CHOICE_RELEASE_HINGE_Y">
+        <source>Hinge about y (My)</source>
+        <translation>Hinge about y (My)</translation>
+    </message>
+    <message id="UI_CHOICE_RELEASE_HINGE_Z">
+        <source>Hinge about z (Mz)</source>
+        <translation>Hinge about z (Mz)</translation>
+    </message>
+    <message id="UI_CHOICE_RELEASE_ALL_MOMENTS">
+        <source>Ball joint (T, My, Mz)</source>
+        <translation>Ball joint (T, My, Mz)</translation>
+    </message>
+    <message id="UI_CHOICE_SECTION_RHS">
+        <source>Rectangular hollow</source>
+        <translation>Rectangular hollow</translation>
+    </message>
+    <message id="UI_CHOICE_SECTION_CHS">
+        <source>Circular hollow</source>
+        <translation>Circular hollow</translation>
+    </message>
+    <message id="UI_CHOICE_SUPPORT_CUSTOM">
+        <source>Custom</source>
+        <translation>Custom</translation>
+    </message>
+    <message id="UI_COUNT_NODES">
+        <source>%1 nodes</source>
+        <translation>%1 nodes</translation>
+    </message>
+    <message id="UI_COUNT_MEMBERS">
+        <source>%1 members</source>
+        <translation>%1 members</translation>
+    </message>
+    <message id="UI_COUNT_SUPPORTS">
+        <source>%1 supports</source>
+        <translation>%1 supports</translation>
+    </message>
+    <message id="UI_COUNT_CROSS_SECTIONS">
+        <source>%1 cross-sections</source>
+        <translation>%1 cross-sections</translation>
+    </message>
+    <message id="UI_COUNT_MATERIALS">
+        <source>%1 materials</source>
+        <translation>%1 materials</translation>
+    </message>
+    <message id="UI_COUNT_LOAD_CASES">
+        <source>%1 load cases</source>
+        <translation>%1 load cases</translation>
+    </message>
+    <message id="UI_COUNT_NODAL_LOADS">
+        <source>%1 nodal loads</source>
+        <translation>%1 nodal loads</translation>
+    </message>
+    <message id="UI_COUNT_MEMBER_LOADS">
+        <source>%1 member loads</source>
+        <translation>%1 member loads</translation>
+    </message>
+    <message id="UI_COUNT_COMBINATIONS">
+        <source>%1 combinations</source>
+        <translation>%1 combinations</translation>
+    </message>
+    <message id="UI_COUNT_OBJECTS">
+        <source>%1 objects</source>
+        <translation>%1 objects</translation>
+    </message>
+    <message id="UI_DEMO_SHOW">
+        <source>Show:</source>
+        <translation>Show:</translation>
+    </message>
+    <message id="UI_DEMO_OBJECT_COUNT">
+        <source>%1 objects</source>
+        <translation>%1 objects</translation>
+    </message>
+    <message id="UI_MODEL_ERROR_ABOVE_MAXIMUM">
+        <source>%1 is above the largest value allowed, %2</source>
+        <translation>%1 is above the largest value allowed, %2</translation>
+    </message>
+    <message id="UI_MODEL_ERROR_BELOW_MINIMUM">
+        <source>%1 is below the smallest value allowed, %2</source>
+        <translation>%1 is below the smallest value allowed, %2</translation>
+    </message>
+    <message id="UI_MODEL_ERROR_COMBINATION_EMPTY">
+        <source>A combination needs at least one load case</source>
+        <translation>A combination needs at least one load case</translation>
+    </message>
+    <message id="UI_MODEL_ERROR_COMBINATION_TEXT">
+        <source>Write a combination as factors times load cases, such as </source>
+        <translation>Write a combination as factors times load cases, such as 1.35*LC1 + 1.5*LC2</translation>
+    </message>
+    <message id="UI_MODEL_ERROR_FLANGES_TOO_THICK">
+        <source>Two flanges of %1 mm do not fit in a height of %2 mm</source>
+        <translation>Two flanges of %1 mm do not fit in a height of %2 mm</translation>
+    </message>
+    <message id="UI_MODEL_ERROR_WEB_TOO_THICK">
+        <source>A web of %1 mm does not fit in a width of %2 mm</source>
+        <translation>A web of %1 mm does not fit in a width of %2 mm</translation>
+    </message>
+    <message id="UI_MODEL_ERROR_WALL_TOO_THICK">
+        <source>A wall of %1 mm is too thick for %2 mm: it must be less t</source>
+        <translation>A wall of %1 mm is too thick for %2 mm: it must be less than half of it</translation>
+    </message>
+    <message id="UI_MODEL_ERROR_IN_USE">
+        <source>%1 is used by %2</source>
+        <translation>%1 is used by %2</translation>
+    </message>
+    <message id="UI_MODEL_ERROR_NEGATIVE">
+        <source>A spring cannot be negative</source>
+        <translation>A spring cannot be negative</translation>
+    </message>
+    <message id="UI_MODEL_ERROR_NOT_A_COLOUR">
+        <source>This is not a colour</source>
+        <translation>This is not a colour</translation>
+    </message>
+    <message id="UI_MODEL_ERROR_NOT_A_NUMBER">
+        <source>This is not a number</source>
+        <translation>This is not a number</translation>
+    </message>
+    <message id="UI_MODEL_ERROR_NOT_POSITIVE">
+        <source>The value must be greater than 0</source>
+        <translation>The value must be greater than 0</translation>
+    </message>
+    <message id="UI_MODEL_ERROR_NO_CHOICE">
+        <source>There is no choice %1</source>
+        <translation>There is no choice %1</translation>
+    </message>
+    <message id="UI_MODEL_ERROR_NO_LOAD_CASE">
+        <source>There is no load case %1</source>
+        <translation>There is no load case %1</translation>
+    </message>
+    <message id="UI_MODEL_ERROR_NO_MATERIAL">
+        <source>There is no material %1</source>
+        <translation>There is no material %1</translation>
+    </message>
+    <message id="UI_MODEL_ERROR_NO_MEMBER">
+        <source>There is no member %1</source>
+        <translation>There is no member %1</translation>
+    </message>
+    <message id="UI_MODEL_ERROR_NO_NODE">
+        <source>There is no node %1</source>
+        <translation>There is no node %1</translation>
+    </message>
+    <message id="UI_MODEL_ERROR_NO_SECTION">
+        <source>There is no cross-section %1</source>
+        <translation>There is no cross-section %1</translation>
+    </message>
+    <message id="UI_MODEL_ERROR_READ_ONLY">
+        <source>%1 cannot be changed</source>
+        <translation>%1 cannot be changed</translation>
+    </message>
+    <message id="UI_MODEL_ERROR_SAME_NODES">
+        <source>A member cannot start and end at the same node (%1)</source>
+        <translation>A member cannot start and end at the same node (%1)</translation>
+    </message>
+    <message id="UI_MODEL_ERROR_SUPPORT_TAKEN">
+        <source>%1 has a support already: %2</source>
+        <translation>%1 has a support already: %2</translation>
+    </message>
+    <message id="UI_MODEL_ERROR_WRONG_TYPE">
+        <source>%1 is not a value of this property</source>
+        <translation>%1 is not a value of this property</translation>
+    </message>
+    <message id="UI_MODEL_ERROR_ZERO_LENGTH">
+        <source>%1 would have no length: nodes %2 and %3 lie at the same </source>
+        <translation>%1 would have no length: nodes %2 and %3 lie at the same place</translation>
+    </message>
+    <message id="UI_ANALYSIS_STOPPING">
+        <source>Stopping once this step is done…</source>
+        <translation>Stopping once this step is done…</translation>
+    </message>
+    <message id="UI_ANALYSIS_MODEL">
+        <source>%1 nodes, %2 members, %3 load cases, %4 combinations</source>
+        <translation>%1 nodes, %2 members, %3 load cases, %4 combinations</translation>
+    </message>
+    <message id="UI_ANALYSIS_STAGE_PREPARING">
+        <source>Preparing the model</source>
+        <translation>Preparing the model</translation>
+    </message>
+    <message id="UI_ANALYSIS_STAGE_ASSEMBLING">
+        <source>Assembling the stiffness matrix</source>
+        <translation>Assembling the stiffness matrix</translation>
+    </message>
+    <message id="UI_ANALYSIS_STAGE_FACTORISING">
+        <source>Factorising the stiffness matrix</source>
+        <translation>Factorising the stiffness matrix</translation>
+    </message>
+    <message id="UI_ANALYSIS_STAGE_SOLVING">
+        <source>Solving the load cases</source>
+        <translation>Solving the load cases</translation>
+    </message>
+    <message id="UI_ANALYSIS_STAGE_WRITING">
+        <source>Writing the results</source>
+        <translation>Writing the results</translation>
+    </message>
+    <message id="UI_ANALYSIS_DONE">
+        <source>Analysed %1 degrees of freedom in %2 s</source>
+        <translation>Analysed %1 degrees of freedom in %2 s</translation>
+    </message>
+    <message id="UI_ANALYSIS_STOPPED">
+        <source>The analysis was stopped</source>
+        <translation>The analysis was stopped</translation>
+    </message>
+    <message id="UI_ANALYSIS_FAILED">
+        <source>The analysis failed: %1</source>
+        <translation>The analysis failed: %1</translation>
+    </message>
+    <message id="UI_ANALYSIS_SUMMARY_DISPLACEMENT">
+        <source>%1 mm at %2</source>
+        <translation>%1 mm at %2</translation>
+    </message>
+    <message id="UI_ANALYSIS_SUMMARY_REACTIONS">
+        <source>%1 / %2 / %3 kN</source>
+        <translation>%1 / %2 / %3 kN</translation>
+    </message>
+    <message id="UI_ANALYSIS_SUMMARY_MOMENT">
+        <source>%1 kNm in %2</source>
+        <translation>%1 kNm in %2</translation>
+    </message>
+    <message id="UI_RESULTS_SET">
+        <source>Load case / combination</source>
+        <translation>Load case / combination</translation>
+    </message>
+    <message id="UI_RESULTS_SET_LOAD_CASE">
+        <source>LC%1 %2</source>
+        <translation>LC%1 %2</translation>
+    </message>
+    <message id="UI_RESULTS_SET_COMBINATION">
+        <source>CO%1 %2</source>
+        <translation>CO%1 %2</translation>
+    </message>
+    <message id="UI_RESULTS_TABLE_NODE_DISPLACEMENTS">
+        <source>Node displacements</source>
+        <translation>Node displacements</translation>
+    </message>
+    <message id="UI_RESULTS_TABLE_SUPPORT_REACTIONS">
+        <source>Support reactions</source>
+        <translation>Support reactions</translation>
+    </message>
+    <message id="UI_RESULTS_TABLE_MEMBER_END_FORCES">
+        <source>Member end forces</source>
+        <translation>Member end forces</translation>
+    </message>
+    <message id="UI_RESULTS_TABLE_MEMBER_STATION_FORCES">
+        <source>Member forces along members</source>
+        <translation>Member forces along members</translation>
+    </message>
+    <message id="UI_RESULTS_END">
+        <source>End</source>
+        <translation>End</translation>
+    </message>
+    <message id="UI_RESULTS_END_START">
+        <source>Start</source>
+        <translation>Start</translation>
+    </message>
+    <message id="UI_RESULTS_END_END">
+        <source>End</source>
+        <translation>End</translation>
+    </message>
+    <message id="UI_RESULTS_X">
+        <source>x</source>
+        <translation>x</translation>
+    </message>
+    <message id="UI_RESULTS_UX">
+        <source>ux</source>
+        <translation>ux</translation>
+    </message>
+    <message id="UI_RESULTS_UY">
+        <source>uy</source>
+        <translation>uy</translation>
+    </message>
+    <message id="UI_RESULTS_UZ">
+        <source>uz</source>
+        <translation>uz</translation>
+    </message>
+    <message id="UI_RESULTS_RX">
+        <source>φx</source>
+        <translation>φx</translation>
+    </message>
+    <message id="UI_RESULTS_RY">
+        <source>φy</source>
+        <translation>φy</translation>
+    </message>
+    <message id="UI_RESULTS_RZ">
+        <source>φz</source>
+        <translation>φz</translation>
+    </message>
+    <message id="UI_RESULTS_FX">
+        <source>Fx</source>
+        <translation>Fx</translation>
+    </message>
+    <message id="UI_RESULTS_FY">
+        <source>Fy</source>
+        <translation>Fy</translation>
+    </message>
+    <message id="UI_RESULTS_FZ">
+        <source>Fz</source>
+        <translation>Fz</translation>
+    </message>
+    <message id="UI_RESULTS_MX">
+        <source>Mx</source>
+        <translation>Mx</translation>
+    </message>
+    <message id="UI_RESULTS_MY">
+        <source>My</source>
+        <translation>My</translation>
+    </message>
+    <message id="UI_RESULTS_MZ">
+        <source>Mz</source>
+        <translation>Mz</translation>
+    </message>
+    <message id="UI_RESULTS_N">
+        <source>N</source>
+        <translation>N</translation>
+    </message>
+    <message id="UI_RESULTS_VY">
+        <source>Vy</source>
+        <translation>Vy</translation>
+    </message>
+    <message id="UI_RESULTS_VZ">
+        <source>Vz</source>
+        <translation>Vz</translation>
+    </message>
+    <message id="UI_RESULTS_T">
+        <source>T</source>
+        <translation>T</translation>
+    </message>
+    <message id="UI_ANALYSIS_ERROR_NO_MEMBERS">
+        <source>There is nothing to analyse: the model has no members</source>
+        <translation>There is nothing to analyse: the model has no members</translation>
+    </message>
+    <message id="UI_ANALYSIS_ERROR_NO_LOAD_CASES">
+        <source>There is nothing to analyse: the model has no load cases</source>
+        <translation>There is nothing to analyse: the model has no load cases</translation>
+    </message>
+    <message id="UI_ANALYSIS_ERROR_FREE_NODE">
+        <source>%1 is not connected to any member or support</source>
+        <translation>%1 is not connected to any member or support</translation>
+    </message>
+    <message id="UI_ANALYSIS_ERROR_MECHANISM">
+        <source>The structure is unstable: %1 can move in %2 without resistance (a mechanism)</source>
+        <translation>The structure is unstable: %1 can move in %2 without resistance (a mechanism)</translation>
+    </message>
+    <message id="UI_ANALYSIS_ERROR_UNRESISTED_LOAD">
+        <source>%1 is loaded in %2, where nothing holds it</source>
+        <translation>%1 is loaded in %2, where nothing holds it</translation>
+    </message>
+    <message id="UI_ANALYSIS_ERROR_SINGULAR">
+        <source>The structure is unstable: its stiffness matrix is singular</source>
+        <translation>The structure is unstable: its stiffness matrix is singular</translation>
+    </message>
+    <message id="UI_TABLE_ERROR_NO_COLUMN">
+        <source>There is no column %1</source>
+        <translation>There is no column %1</translation>
+    </message>
+    <message id="UI_UNDO_TABLE_CELLS">
+        <source>Edit %1 cells in %2</source>
+        <translation>Edit %1 cells in %2</translation>
+    </message>
+    <message id="UI_UNDO_TABLE_ROW">
+        <source>Add a row to %1</source>
+        <translation>Add a row to %1</translation>
+    </message>
+    <message id="UI_UNDO_TABLE_ROWS">
+        <source>Add %1 rows to %2</source>
+        <translation>Add %1 rows to %2</translation>
+    </message>
+    <message id="UI_TABLES_WORKSTATION_MODEL">
+        <source>Model</source>
+        <translation>Model</translation>
+    </message>
+    <message id="UI_TABLES_WORKSTATION_LOADS">
+        <source>Loads</source>
+        <translation>Loads</translation>
+    </message>
+    <message id="UI_TABLES_WORKSTATION_RESULTS">
+        <source>Results</source>
+        <translation>Results</translation>
+    </message>
+    <message id="UI_OBJECT_SUPPORT">
+        <source>Support</source>
+        <translation>Support</translation>
+    </message>
+    <message id="UI_OBJECT_SUPPORTS">
+        <source>Supports</source>
+        <translation>Supports</translation>
+    </message>
+    <message id="UI_OBJECT_CROSS_SECTION">
+        <source>Cross-section</source>
+        <translation>Cross-section</translation>
+    </message>
+    <message id="UI_OBJECT_CROSS_SECTIONS">
+        <source>Cross-sections</source>
+        <translation>Cross-sections</translation>
+    </message>
+    <message id="UI_OBJECT_MATERIAL">
+        <source>Material</source>
+        <translation>Material</translation>
+    </message>
+    <message id="UI_OBJECT_MATERIALS">
+        <source>Materials</source>
+        <translation>Materials</translation>
+    </message>
+    <message id="UI_OBJECT_NODAL_LOAD">
+        <source>Nodal load</source>
+        <translation>Nodal load</translation>
+    </message>
+    <message id="UI_OBJECT_NODAL_LOADS">
+        <source>Nodal loads</source>
+        <translation>Nodal loads</translation>
+    </message>
+    <message id="UI_OBJECT_MEMBER_LOAD">
+        <source>Member load</source>
+        <translation>Member load</translation>
+    </message>
+    <message id="UI_OBJECT_MEMBER_LOADS">
+        <source>Member loads</source>
+        <translation>Member loads</translation>
+    </message>
+    <message id="UI_OBJECT_COMBINATION">
+        <source>Combination</source>
+        <translation>Combination</translation>
+    </message>
+    <message id="UI_OBJECT_COMBINATIONS">
+        <source>Combinations</source>
+        <translation>Combinations</translation>
+    </message>
+    <message id="UI_PROPERTIES_CATEGORY_LOADS">
+        <source>Loads</source>
+        <translation>Loads</translation>
+    </message>
+    <message id="UI_PROPERTIES_SUB_FIXITIES">
+        <source>Fixed directions</source>
+        <translation>Fixed directions</translation>
+    </message>
+    <message id="UI_PROPERTIES_SUB_SECTION_VALUES">
+        <source>Section values</source>
+        <translation>Section values</translation>
+    </message>
+    <message id="UI_PROP_AREA">
+        <source>Area A</source>
+        <translation>Area A</translation>
+    </message>
+    <message id="UI_PROP_IY">
+        <source>Second moment I&lt;sub&gt;y&lt;/sub&gt;</source>
+        <translation>Second moment I&lt;sub&gt;y&lt;/sub&gt;</translation>
+    </message>
+    <message id="UI_PROP_IZ">
+        <source>Second moment I&lt;sub&gt;z&lt;/sub&gt;</source>
+        <translation>Second moment I&lt;sub&gt;z&lt;/sub&gt;</translation>
+    </message>
+    <message id="UI_PROP_IT">
+        <source>Torsion constant I&lt;sub&gt;t&lt;/sub&gt;</source>
+        <translation>Torsion constant I&lt;sub&gt;t&lt;/sub&gt;</translation>
+    </message>
+    <message id="UI_PROP_COMBINATION">
+        <source>Load cases and factors</source>
+        <translation>Load cases and factors</translation>
+    </message>
+    <message id="UI_PROP_CONCRETE_CLASS">
+        <source>Strength class</source>
+        <translation>Strength class</translation>
+    </message>
+    <message id="UI_PROP_STEEL_GRADE">
+        <source>Steel grade</source>
+        <translation>Steel grade</translation>
+    </message>
+    <message id="UI_PROP_TIMBER_CLASS">
+        <source>Strength class</source>
+        <translation>Strength class</translation>
+    </message>
+    <message id="UI_PROP_CROSS_SECTION">
+        <source>Cross-section</source>
+        <translation>Cross-section</translation>
+    </message>
+    <message id="UI_PROP_DENSITY">
+        <source>Density ρ</source>
+        <translation>Density ρ</translation>
+    </message>
+    <message id="UI_PROP_DIAMETER">
+        <source>Diameter d</source>
+        <translation>Diameter d</translation>
+    </message>
+    <message id="UI_PROP_DIRECTION">
+        <source>Direction</source>
+        <translation>Direction</translation>
+    </message>
+    <message id="UI_PROP_FIXED_UX">
+        <source>Fixed in X</source>
+        <translation>Fixed in X</translation>
+    </message>
+    <message id="UI_PROP_FIXED_UY">
+        <source>Fixed in Y</source>
+        <translation>Fixed in Y</translation>
+    </message>
+    <message id="UI_PROP_FIXED_UZ">
+        <source>Fixed in Z</source>
+        <translation>Fixed in Z</translation>
+    </message>
+    <message id="UI_PROP_FIXED_RX">
+        <source>Fixed about X</source>
+        <translation>Fixed about X</translation>
+    </message>
+    <message id="UI_PROP_FIXED_RY">
+        <source>Fixed about Y</source>
+        <translation>Fixed about Y</translation>
+    </message>
+    <message id="UI_PROP_FIXED_RZ">
+        <source>Fixed about Z</source>
+        <translation>Fixed about Z</translation>
+    </message>
+    <message id="UI_PROP_FORCE_X">
+        <source>Force F&lt;sub&gt;x&lt;/sub&gt;</source>
+        <translation>Force F&lt;sub&gt;x&lt;/sub&gt;</translation>
+    </message>
+    <message id="UI_PROP_FORCE_Y">
+        <source>Force F&lt;sub&gt;y&lt;/sub&gt;</source>
+        <translation>Force F&lt;sub&gt;y&lt;/sub&gt;</translation>
+    </message>
+    <message id="UI_PROP_FORCE_Z">
+        <source>Force F&lt;sub&gt;z&lt;/sub&gt;</source>
+        <translation>Force F&lt;sub&gt;z&lt;/sub&gt;</translation>
+    </message>
+    <message id="UI_PROP_MOMENT_X">
+        <source>Moment M&lt;sub&gt;x&lt;/sub&gt;</source>
+        <translation>Moment M&lt;sub&gt;x&lt;/sub&gt;</translation>
+    </message>
+    <message id="UI_PROP_MOMENT_Y">
+        <source>Moment M&lt;sub&gt;y&lt;/sub&gt;</source>
+        <translation>Moment M&lt;sub&gt;y&lt;/sub&gt;</translation>
+    </message>
+    <message id="UI_PROP_MOMENT_Z">
+        <source>Moment M&lt;sub&gt;z&lt;/sub&gt;</source>
+        <translation>Moment M&lt;sub&gt;z&lt;/sub&gt;</translation>
+    </message>
+    <message id="UI_PROP_LENGTH">
+        <source>Length</source>
+        <translation>Length</translation>
+    </message>
+    <message id="UI_PROP_LINE_LOAD">
+        <source>Load q</source>
+        <translation>Load q</translation>
+    </message>
+    <message id="UI_PROP_MATERIAL_CATEGORY">
+        <source>Kind of material</source>
+        <translation>Kind of material</translation>
+    </message>
+    <message id="UI_PROP_NODE">
+        <source>Node</source>
+        <translation>Node</translation>
+    </message>
+    <message id="UI_PROP_RELEASE_START">
+        <source>At start</source>
+        <translation>At start</translation>
+    </message>
+    <message id="UI_PROP_RELEASE_END">
+        <source>At end</source>
+        <translation>At end</translation>
+    </message>
+    <message id="UI_PROP_SHEAR_MODULUS">
+        <source>Shear modulus G</source>
+        <translation>Shear modulus G</translation>
+    </message>
+    <message id="UI_PROP_STRENGTH">
+        <source>Strength f&lt;sub&gt;k&lt;/sub&gt;</source>
+        <translation>Strength f&lt;sub&gt;k&lt;/sub&gt;</translation>
+    </message>
+    <message id="UI_PROP_WALL_THICKNESS">
+        <source>Wall thickness t</source>
+        <translation>Wall thickness t</translation>
+    </message>
+    <message id="UI_UNDO_SET_PROPERTY">
+        <source>Set %1 of %2</source>
+        <translation>Set %1 of %2</translation>
+    </message>
+    <message id="UI_UNDO_ADD">
+        <source>Add %1</source>
+        <translation>Add %1</translation>
+    </message>
+    <message id="UI_UNDO_DELETE">
+        <source>Delete %1</source>
+        <translation>Delete %1</translation>
+    </message>
+    <message id="UI_UNDO_ACTION">
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message id="UI_GRAPHICVIEW_TITLE">
+        <source>Model view</source>
+        <translation>Model view</translation>
+    </message>
+    <message id="UI_APP_PAGE_MODEL">
+        <source>Model</source>
+        <translation>Model</translation>
+    </message>
+    <message id="UI_APP_POINTER">
+        <source>x %1 m   y %2 m   z %3 m</source>
+        <translation>x %1 m   y %2 m   z %3 m</translation>
+    </message>
+    <message id="UI_APP_POINTER_NONE">
+        <source>Pointer off the model</source>
+        <translation>Pointer off the model</translation>
+    </message>
+    <message id="UI_APP_VIEW_SCALE">
+        <source>1 pixel = %1 m</source>
+        <translation>1 pixel = %1 m</translation>
+    </message>
+    <message id="UI_APP_VIEW_ISOMETRIC">
+        <source>Isometric</source>
+        <translation>Isometric</translation>
+    </message>
+    <message id="UI_APP_VIEW_TOP">
+        <source>Top</source>
+        <translation>Top</translation>
+    </message>
+    <message id="UI_APP_VIEW_FRONT">
+        <source>Front</source>
+        <translation>Front</translation>
+    </message>
+    <message id="UI_APP_VIEW_SIDE">
+        <source>Side</source>
+        <translation>Side</translation>
+    </message>
+    <message id="UI_APP_VIEW_FIT">
+        <source>Fit all</source>
+        <translation>Fit all</translation>
+    </message>
+    <message id="UI_APP_VIEW_SECTIONS">
+        <source>Sections</source>
+        <translation>Sections</translation>
+    </message>
+    <message id="UI_APP_VIEW_LOADS">
+        <source>Loads</source>
+        <translation>Loads</translation>
+    </message>
+    <message id="UI_APP_VIEW_DEFORMED">
+        <source>Deformed shape</source>
+        <translation>Deformed shape</translation>
+    </message>
+    <message id="UI_APP_VIEW_MOMENTS">
+        <source>Bending moments</source>
+        <translation>Bending moments</translation>
+    </message>
+    <message id="UI_APP_VIEW_ANALYSE">
+        <source>Analyse</source>
+        <translation>Analyse</translation>
+    </message>
+    <message id="UI_APP_VIEW_ANALYSING">
+        <source>Analysing…</source>
+        <translation>Analysing…</translation>
+    </message>
+    <message id="UI_APP_OBJECTS_TITLE">
+        <source>Objects of the model</source>
+        <translation>Objects of the model</translation>
+    </message>
+    <message id="UI_APP_OBJECTS_SELECTED">
+        <source>%1 of %2 selected</source>
+        <translation>%1 of %2 selected</translation>
+    </message>
+    <message id="UI_APP_OBJECTS_NUMBER">
+        <source>Object</source>
+        <translation>Object</translation>
+    </message>
+    <message id="UI_APP_OBJECTS_NAME">
+        <source>Name</source>
+        <translation>Name</translation>
+    </message>
+    <message id="UI_APP_OBJECTS_VALUES">
+        <source>Values</source>
+        <translation>Values</translation>
     </message>
 </context>
 </TS>

@@ -5,6 +5,8 @@ import Qml.QtComponents
 import Qml.QtBasicComponents
 import BasicComponents.Constants
 import UIComponents.Constants
+import Orvo.QtExtensions
+import UIComponents.MarkingMenu
 
 ApplicationWindow {
     id: window
@@ -16,11 +18,13 @@ ApplicationWindow {
 
     // One entry per demo page; each page shows one area of the component library at work.
     readonly property var pages: [
+        { name: "model", lcid: "UI_APP_PAGE_MODEL", source: "ModelWorkspace.qml" },
         { name: "overview", lcid: "UI_APP_PAGE_OVERVIEW", source: "OverviewPage.qml" },
         { name: "valueentry", lcid: "UI_APP_PAGE_VALUE_ENTRY", source: "ValueEntryPage.qml" },
         { name: "markingmenu", lcid: "UI_APP_PAGE_MARKING_MENU", source: "MarkingMenuPage.qml" },
         { name: "properties", lcid: "UI_APP_PAGE_PROPERTIES", source: "PropertiesPage.qml" },
         { name: "tables", lcid: "UI_APP_PAGE_TABLES", source: "TablesPage.qml" },
+        { name: "analysis", lcid: "UI_APP_PAGE_ANALYSIS", source: "AnalysisPage.qml" },
         { name: "shortcuts", lcid: "UI_APP_PAGE_SHORTCUTS", source: "ShortcutsPage.qml" }
     ]
 
@@ -38,6 +42,11 @@ ApplicationWindow {
         source: "qrc:/UIComponents/HotkeyHandler/HotkeyHandler.qml"
     }
 
+    // The application's marking menu: it opens over whichever view asks for it.
+    MarkingMenu {
+        objectName: "markingMenu"
+    }
+
     header: Rectangle {
         height: 40
         color: UIComponentsConstants.markingMenuRing
@@ -48,6 +57,25 @@ ApplicationWindow {
             font.family: BasicConstants.fonts.family
             font.pixelSize: BasicConstants.fonts.title
             font.bold: true
+        }
+
+        // The host's number setting: how every field, table cell and filter writes numbers.
+        RowLayout {
+            anchors { right: parent.right; rightMargin: 14; verticalCenter: parent.verticalCenter }
+            spacing: 8
+            Text {
+                text: Strings.text("UI_APP_NUMBER_FORMAT")
+                color: "white"
+                font.family: BasicConstants.fonts.family
+                font.pixelSize: BasicConstants.fonts.normal
+            }
+            BasicComboBox {
+                objectName: "numberFormat"
+                Layout.preferredWidth: 190
+                model: [Strings.text("UI_APP_NUMBER_FORMAT_POINT"), Strings.text("UI_APP_NUMBER_FORMAT_COMMA")]
+                currentIndex: NumberFormat.decimalComma ? 1 : 0
+                onActivated: index => NumberFormat.decimalComma = index === 1
+            }
         }
     }
 
@@ -92,12 +120,14 @@ ApplicationWindow {
             color: BasicConstants.colors.border
         }
 
-        Loader {
-            id: pageLoader
-            objectName: "pageLoader"
+        PageStack {
+            id: pageStack
+            objectName: "pageStack"
             Layout.fillWidth: true
             Layout.fillHeight: true
-            source: window.pages[Math.max(0, pageList.currentIndex)].source
+            pages: window.pages
+            currentIndex: Math.max(0, pageList.currentIndex)
+            onPageRequested: name => pageList.currentIndex = window.pageIndex(name)
         }
     }
 
@@ -109,6 +139,16 @@ ApplicationWindow {
             text: commandActivity.runCount > 0
                   ? Strings.text("UI_APP_STATUS_LAST_COMMAND").arg(commandActivity.lastCommandName).arg(commandActivity.lastOrigin)
                   : Strings.text("UI_APP_STATUS_READY")
+            font.family: BasicConstants.fonts.family
+            font.pixelSize: BasicConstants.fonts.small
+            color: BasicConstants.colors.textSecondary
+        }
+        // Where the pointer is in the model, and the model view's scale.
+        Text {
+            objectName: "viewStatus"
+            anchors { right: parent.right; rightMargin: 10; verticalCenter: parent.verticalCenter }
+            visible: window.pages[pageStack.currentIndex].name === "model"
+            text: viewControls.pointerText + "    " + viewControls.scaleText
             font.family: BasicConstants.fonts.family
             font.pixelSize: BasicConstants.fonts.small
             color: BasicConstants.colors.textSecondary

@@ -5,17 +5,12 @@ import Qml.QtComponents
 import Qml.QtBasicComponents
 import BasicComponents.Constants
 import UIComponents.Constants
-import UIComponents.MarkingMenu
 import Orvo.QtExtensions
 
 // The marking menu at work: hold the secondary button over the model view, choose a command,
-// and see it run.
+// and see it run. The menu is the application's own (Main.qml).
 Item {
     id: page
-
-    MarkingMenu {
-        id: markingMenu
-    }
 
     RowLayout {
         anchors { fill: parent; margins: 24 }

@@ -14,7 +14,7 @@ Item {
 
     SampleObjectsModel { id: objects }
 
-    Component.onCompleted: if (objects.selectedCount === 0) objects.selectKind("member")
+    Component.onCompleted: if (objects.selectedCount === 0) objects.click(0, Qt.NoModifier)
 
     RowLayout {
         anchors { fill: parent; margins: 16 }
@@ -40,12 +40,18 @@ Item {
 
                 RowLayout {
                     spacing: 6
+                    BasicLabel { text: Strings.text("UI_DEMO_SHOW") }
+                    BasicComboBox {
+                        objectName: "objectKindBox"
+                        Layout.preferredWidth: 170
+                        model: objects.kindNames
+                        currentIndex: objects.kinds.indexOf(objects.kind)
+                        onActivated: (index) => objects.kind = objects.kinds[index]
+                    }
                     BasicLabel { text: Strings.text("UI_DEMO_SELECT") }
-                    BasicButton { text: Strings.text("UI_DEMO_SELECT_NODES"); onClicked: objects.selectKind("node") }
-                    BasicButton { text: Strings.text("UI_DEMO_SELECT_MEMBERS"); onClicked: objects.selectKind("member") }
-                    BasicButton { text: Strings.text("UI_DEMO_SELECT_LOAD_CASES"); onClicked: objects.selectKind("loadCase") }
-                    BasicButton { text: Strings.text("UI_DEMO_SELECT_ALL"); onClicked: objects.selectKind("") }
+                    BasicButton { text: Strings.text("UI_DEMO_SELECT_ALL"); onClicked: objects.selectAll() }
                     BasicButton { text: Strings.text("UI_DEMO_SELECT_NONE"); onClicked: objects.clearSelection() }
+                    BasicLabel { text: Strings.text("UI_DEMO_OBJECT_COUNT").arg(objectList.count) }
                 }
 
                 ListView {

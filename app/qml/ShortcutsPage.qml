@@ -3,12 +3,15 @@ import QtQuick.Layouts
 import Qml.QtComponents
 import Qml.QtBasicComponents
 import BasicComponents.Constants
+import QtQuick.Controls.Basic as Controls
+import UIComponents.Common
 import UIComponents.Utilities
 import Orvo.QtExtensions
 
-// Keyboard shortcuts at work: the application's commands with their shortcuts (change one
-// and it answers at once), what the hotkey handler has bound, the commands the keys ran, and
-// a message box during which no shortcut runs anything.
+// Keyboard shortcuts at work: the application's commands with their shortcuts (record a new
+// one by pressing it; a shortcut another command has is moved only when the user agrees), what
+// the hotkey handler has bound, every command run since the application started, and a message
+// box during which no shortcut runs anything.
 Item {
     id: page
 
@@ -16,20 +19,23 @@ Item {
         id: commands
     }
 
-    CommandExecutionMonitor {
-        id: monitor
-        onCommandExecuted: (commandUuid, parameterString, origin) => {
-            runLog.insert(0, { name: commands.commandName(commandUuid),
-                               parameters: parameterString,
-                               origin: origin,
-                               time: Qt.formatTime(new Date(), "hh:mm:ss") })
-            if (runLog.count > 50)
-                runLog.remove(50, runLog.count - 50)
-        }
+    CommandHistoryModel {
+        id: runLog
     }
 
-    ListModel {
-        id: runLog
+    // Asks before a shortcut is taken from the command that has it.
+    BasicMessageBox {
+        id: conflictBox
+        objectName: "shortcutConflict"
+        property string uuid: ""
+        property string sequence: ""
+        property string owner: ""
+        title: Strings.text("UI_APP_SHORTCUTS_CONFLICT_TITLE")
+        text: Strings.text("UI_APP_SHORTCUTS_CONFLICT_TEXT").arg(sequence).arg(commands.commandName(owner))
+              .arg(commands.commandName(uuid))
+        acceptText: Strings.text("UI_APP_SHORTCUTS_CONFLICT_MOVE")
+        rejectText: Strings.text("UI_APP_SHORTCUTS_CONFLICT_KEEP")
+        onAccepted: commands.moveShortcut(uuid, sequence)
     }
 
     BasicMessageBox {
@@ -59,6 +65,9 @@ Item {
                     Layout.fillWidth: true
                     Layout.fillHeight: true
                     clip: true
+                    Controls.ScrollBar.vertical: Controls.ScrollBar {
+                        policy: parent.contentHeight > parent.height ? Controls.ScrollBar.AlwaysOn : Controls.ScrollBar.AlwaysOff
+                    }
                     model: commands
                     currentIndex: 0
                     delegate: Rectangle {
@@ -67,7 +76,7 @@ Item {
                         required property string shortcut
                         required property string icon
                         required property bool commandEnabled
-                        width: ListView.view.width
+                        width: ListView.view.width - 12
                         height: BasicConstants.sizes.rowHeight + 4
                         color: ListView.isCurrentItem ? BasicConstants.colors.selection
                                                       : rowMouse.containsMouse ? BasicConstants.colors.hover
@@ -129,6 +138,15 @@ Item {
                     spacing: 8
 
                     function apply(sequence) {
+                        const owner = sequence.trim().length > 0 ? commands.shortcutOwner(sequence, currentUuid) : ""
+                        if (owner !== "") {
+                            refused = false
+                            conflictBox.uuid = currentUuid
+                            conflictBox.sequence = sequence.trim()
+                            conflictBox.owner = owner
+                            conflictBox.open()
+                            return
+                        }
                         refused = !commands.setShortcut(currentUuid, sequence)
                     }
 
@@ -136,7 +154,7 @@ Item {
                         Layout.preferredWidth: 230
                         text: Strings.text("UI_APP_SHORTCUTS_EDIT_LABEL").arg(editor.current ? editor.current.name : "")
                     }
-                    BasicTextField {
+                    ShortcutField {
                         id: sequenceField
                         objectName: "shortcutField"
                         Layout.fillWidth: true
@@ -144,6 +162,7 @@ Item {
                         text: editor.current ? editor.current.shortcut : ""
                         invalid: editor.refused
                         onTextEdited: editor.refused = false
+                        onRecorded: editor.refused = false
                         onAccepted: editor.apply(text)
                     }
                     BasicButton {
@@ -210,18 +229,26 @@ Item {
 
             BasicPanel {
                 Layout.fillWidth: true
-                Layout.preferredHeight: 300
+                Layout.fillHeight: true
+                // As tall as its rows when there is room; the log below keeps room for some rows.
+                Layout.preferredHeight: bindingsList.contentHeight + BasicConstants.sizes.controlHeight + 20
+                Layout.maximumHeight: Layout.preferredHeight
                 title: Strings.text("UI_APP_SHORTCUTS_BINDINGS_TITLE")
 
                 ListView {
+                    id: bindingsList
+                    objectName: "hotkeyBindings"
                     anchors { fill: parent; margins: 8 }
                     clip: true
+                    Controls.ScrollBar.vertical: Controls.ScrollBar {
+                        policy: parent.contentHeight > parent.height ? Controls.ScrollBar.AlwaysOn : Controls.ScrollBar.AlwaysOff
+                    }
                     model: hotkeyHandlerModel
                     delegate: RowLayout {
                         required property int index
                         required property string cmdUuid
                         required property string cmdShortcut
-                        width: ListView.view.width
+                        width: ListView.view.width - 12
                         height: 20
                         spacing: 8
                         KeyboardShortcutText {
@@ -241,6 +268,8 @@ Item {
             BasicPanel {
                 Layout.fillWidth: true
                 Layout.fillHeight: true
+                Layout.minimumHeight: 160
+                Layout.preferredHeight: 160
                 title: Strings.text("UI_APP_SHORTCUTS_LOG_TITLE")
 
                 BasicLabel {
@@ -256,16 +285,19 @@ Item {
                     objectName: "commandRunLog"
                     anchors { fill: parent; margins: 8 }
                     clip: true
+                    Controls.ScrollBar.vertical: Controls.ScrollBar {
+                        policy: parent.contentHeight > parent.height ? Controls.ScrollBar.AlwaysOn : Controls.ScrollBar.AlwaysOff
+                    }
                     model: runLog
                     delegate: RowLayout {
                         required property string name
                         required property string origin
-                        required property string time
-                        width: ListView.view.width
+                        required property date time
+                        width: ListView.view.width - 12
                         height: 20
                         spacing: 8
                         BasicLabel {
-                            text: time
+                            text: Qt.formatTime(time, "hh:mm:ss")
                             font.pixelSize: BasicConstants.fonts.small
                             color: BasicConstants.colors.textSecondary
                         }

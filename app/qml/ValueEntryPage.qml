@@ -5,12 +5,23 @@ import Qml.QtBasicComponents
 import BasicComponents.Constants
 import UIComponents.Common
 import UIComponents.Constants
+import Orvo.QtExtensions
 
+// Numeric inputs at work: numbers and expressions with units, converted into each field's unit
+// or refused with the reason; several values in one field; the calculator's answers to typical
+// expressions. Numbers follow the number format chosen in the window's header.
 Item {
     id: page
 
+    // The edit text of a number; reading the decimal mark makes the bindings that show such text
+    // follow a change of the number format.
+    function formatted(number) {
+        return NumberFormat.decimalMark.length > 0 ? NumberFormat.toEditValue(number) : ""
+    }
+
     function stored(value, unit) {
-        return isNaN(value) ? Strings.text("UI_VALUE_ENTRY_NONE") : value.toLocaleString(Qt.locale(), 'g', 12) + (unit ? " " + unit : "")
+        return isNaN(value) ? Strings.text("UI_VALUE_ENTRY_NONE")
+                              : formatted(value) + (unit ? " " + unit : "")
     }
 
     component Caption: Text {
@@ -19,153 +30,195 @@ Item {
         color: BasicConstants.colors.text
     }
 
-    ColumnLayout {
-        anchors { fill: parent; margins: 24 }
+    // One field of the form: its caption, the input, and what it stored.
+    component FormField: RowLayout {
+        id: formField
+        property alias caption: captionText.text
+        property alias input: numericInput
+        property alias unit: numericInput.unit
+        property alias value: numericInput.value
+        property alias integer: numericInput.integer
+        property alias minimum: numericInput.minimum
+        property alias maximum: numericInput.maximum
         spacing: 16
 
-        BasicPanel {
-            Layout.fillWidth: true
-            Layout.preferredHeight: 210
-            title: Strings.text("UI_VALUE_ENTRY_INPUTS")
+        Caption {
+            id: captionText
+            Layout.preferredWidth: 200
+            Layout.alignment: Qt.AlignTop
+            Layout.topMargin: 5
+        }
+        NumericInput {
+            id: numericInput
+            Layout.preferredWidth: 260
+            Layout.alignment: Qt.AlignTop
+            unitMinimumWidth: 40
+        }
+        Caption {
+            Layout.alignment: Qt.AlignTop
+            Layout.topMargin: 5
+            text: Strings.text("UI_VALUE_ENTRY_STORED") + ": " + page.stored(numericInput.value, numericInput.unit)
+            color: BasicConstants.colors.textSecondary
+        }
+    }
 
-            ColumnLayout {
-                anchors { fill: parent; margins: 12 }
-                spacing: 10
+    Flickable {
+        anchors.fill: parent
+        contentHeight: content.implicitHeight + 48
+        clip: true
 
-                Text {
-                    Layout.fillWidth: true
-                    wrapMode: Text.WordWrap
-                    text: Strings.text("UI_VALUE_ENTRY_HINT")
-                    font.family: BasicConstants.fonts.family
-                    font.pixelSize: BasicConstants.fonts.normal
-                    color: BasicConstants.colors.textSecondary
-                }
+        ColumnLayout {
+            id: content
+            anchors { left: parent.left; right: parent.right; top: parent.top; margins: 24 }
+            spacing: 16
 
-                GridLayout {
-                    columns: 3
-                    columnSpacing: 16
-                    rowSpacing: 14
+            BasicPanel {
+                Layout.fillWidth: true
+                Layout.preferredHeight: inputs.implicitHeight + BasicConstants.sizes.controlHeight + 24
+                title: Strings.text("UI_VALUE_ENTRY_INPUTS")
 
-                    Caption { text: Strings.text("UI_VALUE_ENTRY_LENGTH") }
-                    NumericInput {
-                        id: lengthInput
-                        Layout.preferredWidth: 220
-                        unitMinimumWidth: 28
+                ColumnLayout {
+                    id: inputs
+                    anchors { left: parent.left; right: parent.right; top: parent.top; margins: 12 }
+                    spacing: 12
+
+                    Text {
+                        Layout.fillWidth: true
+                        wrapMode: Text.WordWrap
+                        text: Strings.text("UI_VALUE_ENTRY_HINT")
+                        font.family: BasicConstants.fonts.family
+                        font.pixelSize: BasicConstants.fonts.normal
+                        color: BasicConstants.colors.textSecondary
+                    }
+
+                    FormField {
+                        id: lengthField
+                        objectName: "lengthField"
+                        caption: Strings.text("UI_VALUE_ENTRY_LENGTH")
                         unit: "m"
                         minimum: 0
                         value: 6
                     }
-                    Caption { text: Strings.text("UI_VALUE_ENTRY_STORED") + ": " + page.stored(lengthInput.value, "m") }
-
-                    Caption { text: Strings.text("UI_VALUE_ENTRY_ANGLE") }
-                    NumericInput {
-                        id: angleInput
-                        Layout.preferredWidth: 220
-                        unitMinimumWidth: 28
+                    FormField {
+                        caption: Strings.text("UI_VALUE_ENTRY_ANGLE")
                         unit: "\u00B0"
                         minimum: -360
                         maximum: 360
                         value: 30
                     }
-                    Caption { text: Strings.text("UI_VALUE_ENTRY_STORED") + ": " + page.stored(angleInput.value, "\u00B0") }
-
-                    Caption { text: Strings.text("UI_VALUE_ENTRY_COUNT") }
-                    NumericInput {
-                        id: countInput
-                        Layout.preferredWidth: 220
-                        unitMinimumWidth: 28
-                        integer: true
+                    FormField {
+                        caption: Strings.text("UI_VALUE_ENTRY_FORCE")
+                        unit: "kN"
+                        value: 25
+                    }
+                    FormField {
+                        caption: Strings.text("UI_VALUE_ENTRY_LINE_LOAD")
+                        unit: "kN/m"
+                        value: 4.5
+                    }
+                    FormField {
+                        caption: Strings.text("UI_VALUE_ENTRY_COUNT")
                         unit: "pcs"
+                        integer: true
                         minimum: 1
                         maximum: 50
                         value: 4
                     }
-                    Caption { text: Strings.text("UI_VALUE_ENTRY_STORED") + ": " + page.stored(countInput.value, "pcs") }
                 }
             }
-        }
 
-        BasicPanel {
-            Layout.fillWidth: true
-            Layout.preferredHeight: 120
-            title: Strings.text("UI_VALUE_ENTRY_COORDINATES")
+            BasicPanel {
+                Layout.fillWidth: true
+                Layout.preferredHeight: coordinates.implicitHeight + BasicConstants.sizes.controlHeight + 24
+                title: Strings.text("UI_VALUE_ENTRY_COORDINATES")
 
-            InlineCalculator {
-                id: coordinatesCalculator
-                multipleEnabled: true
-                separators: [";", " "]
-                expression: coordinatesField.text.startsWith("=") ? coordinatesField.text.substring(1) : coordinatesField.text
+                ColumnLayout {
+                    id: coordinates
+                    anchors { left: parent.left; right: parent.right; top: parent.top; margins: 12 }
+                    spacing: 8
+
+                    CoordinatesInput {
+                        id: coordinatesInput
+                        objectName: "coordinatesInput"
+                        Layout.preferredWidth: 420
+                        placeholderText: Strings.text("UI_VALUE_ENTRY_COORDINATES_HINT")
+                    }
+                    Caption {
+                        text: Strings.text("UI_VALUE_ENTRY_STORED") + ": "
+                              + (coordinatesInput.values.length > 0
+                                 ? coordinatesInput.values.map(v => page.formatted(v)).join("; ") + " m"
+                                 : Strings.text("UI_VALUE_ENTRY_NONE"))
+                        color: BasicConstants.colors.textSecondary
+                    }
+                }
             }
 
-            ColumnLayout {
-                anchors { fill: parent; margins: 12 }
-                spacing: 8
+            BasicPanel {
+                Layout.fillWidth: true
+                Layout.preferredHeight: examples.implicitHeight + BasicConstants.sizes.controlHeight + 24
+                title: Strings.text("UI_VALUE_ENTRY_EXAMPLES")
 
-                BasicTextField {
-                    id: coordinatesField
-                    Layout.preferredWidth: 360
-                    text: "=1,5 2*3 500mm"
-                    placeholderText: Strings.text("UI_VALUE_ENTRY_COORDINATES_HINT")
-                    invalid: text.length > 0 && !coordinatesCalculator.valid
-                }
+                ColumnLayout {
+                    id: examples
+                    anchors { left: parent.left; right: parent.right; top: parent.top; margins: 12 }
+                    spacing: 6
 
-                Row {
-                    spacing: 18
+                    component ExampleRow: RowLayout {
+                        property alias typed: typedText.text
+                        property alias unit: unitText.text
+                        property alias result: resultText.text
+                        property alias resultColor: resultText.color
+                        property bool heading: false
+                        spacing: 24
+                        Caption { id: typedText; Layout.preferredWidth: 260; font.bold: heading; font.family: heading ? BasicConstants.fonts.family : "DejaVu Sans Mono" }
+                        Caption { id: unitText; Layout.preferredWidth: 110; font.bold: heading; color: BasicConstants.colors.textSecondary }
+                        Caption { id: resultText; Layout.fillWidth: true; font.bold: heading; font.family: heading ? BasicConstants.fonts.family : "DejaVu Sans Mono" }
+                    }
+
+                    ExampleRow {
+                        heading: true
+                        typed: Strings.text("UI_VALUE_ENTRY_EXAMPLE_TYPED")
+                        unit: Strings.text("UI_VALUE_ENTRY_EXAMPLE_FIELD_UNIT")
+                        result: Strings.text("UI_VALUE_ENTRY_EXAMPLE_RESULT")
+                    }
+
                     Repeater {
-                        model: coordinatesCalculator.multipleResults.length
-                        Caption {
-                            required property int index
-                            readonly property bool partValid: coordinatesCalculator.multipleValids[index]
-                            text: ["x", "y", "z"][index % 3] + (index >= 3 ? Math.floor(index / 3) + 1 : "") + " = "
-                                  + (partValid ? coordinatesCalculator.formatValue(coordinatesCalculator.multipleResults[index])
-                                               : Strings.text("UI_INLINE_CALC_ERROR"))
-                            color: partValid ? BasicConstants.colors.text : BasicConstants.colors.error
+                        model: [
+                            { typed: "2*(3+4)/5", unit: "" },
+                            { typed: "2*500mm + 1" + NumberFormat.decimalMark + "5m", unit: "m" },
+                            { typed: "30cm", unit: "mm" },
+                            { typed: "5kN*2m", unit: "kNm" },
+                            { typed: "10kN/2m", unit: "kN/m" },
+                            { typed: "12MPa", unit: "kN/m\u00B2" },
+                            { typed: "3m*cos(60deg)", unit: "m" },
+                            { typed: "(pi/4) rad", unit: "\u00B0" },
+                            { typed: "max(1" + NumberFormat.decimalMark + "5; 2; 0" + NumberFormat.decimalMark + "5)", unit: "" },
+                            { typed: "5kN", unit: "m" },
+                            { typed: "1m + 1kN", unit: "m" },
+                            { typed: "2*(3", unit: "" }
+                        ]
+                        delegate: ExampleRow {
+                            required property var modelData
+                            typed: "=" + modelData.typed
+                            unit: modelData.unit.length > 0 ? modelData.unit : "\u2013"
+                            result: exampleExpression.valid
+                                    ? "= " + page.formatted(exampleExpression.value)
+                                      + (modelData.unit.length > 0 ? " " + modelData.unit : "")
+                                    : exampleExpression.message
+                            resultColor: exampleExpression.valid ? BasicConstants.colors.text : BasicConstants.colors.error
+
+                            FieldExpression {
+                                id: exampleExpression
+                                expression: modelData.typed
+                                unit: modelData.unit
+                            }
                         }
                     }
                 }
             }
         }
-
-        BasicPanel {
-            Layout.fillWidth: true
-            Layout.preferredHeight: 180
-            title: Strings.text("UI_VALUE_ENTRY_EXAMPLES")
-
-            Grid {
-                anchors { fill: parent; margins: 12 }
-                columns: 2
-                columnSpacing: 48
-                rowSpacing: 6
-
-                Repeater {
-                    model: ["2*(3+4)/5", "sin(30deg) + 500mm", "1,5kN + 20N", "max(1,5; 2; 0,5)", "-2^2", "(1+2)cm",
-                            "round(pi*100)/100", "log(1000) + ln(e)", "1/0", "2*(3"]
-                    delegate: Row {
-                        required property string modelData
-                        spacing: 8
-                        InlineCalculator {
-                            id: exampleCalculator
-                            expression: modelData
-                        }
-                        Caption {
-                            width: 170
-                            text: modelData
-                            font.family: "DejaVu Sans Mono"
-                        }
-                        Caption {
-                            text: exampleCalculator.valid ? "= " + exampleCalculator.formatValue(exampleCalculator.result)
-                                                          : Strings.text("UI_INLINE_CALC_ERROR")
-                            color: exampleCalculator.valid ? BasicConstants.colors.text : BasicConstants.colors.error
-                            font.family: "DejaVu Sans Mono"
-                        }
-                    }
-                }
-            }
-        }
-
-        Item { Layout.fillHeight: true }
     }
 
     // The page opens with an expression being typed, so its live result can be seen at once.
-    Component.onCompleted: lengthInput.startEdit("=2*500mm + 1,5m")
+    Component.onCompleted: lengthField.input.startEdit("=2*500mm + 1" + NumberFormat.decimalMark + "5m")
 }

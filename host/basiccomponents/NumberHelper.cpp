@@ -80,7 +80,7 @@ double NumberHelper::fromEditValue(const QString& text, bool* ok) const
     const QString trimmed = text.trimmed();
     std::optional<double> value = ParseIn(m_locale, trimmed);
     if (!value)
-        value = ParseIn(QLocale::c(), trimmed);
+        value = ParseIn(QLocale::c(), QString(trimmed).replace(QLatin1Char(','), QLatin1Char('.')));
     if (ok)
         *ok = value.has_value();
     return value.value_or(0.0);

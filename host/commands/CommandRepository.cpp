@@ -5,6 +5,7 @@
 #include "framework/Debug.h"
 #include "framework/EventBus.h"
 #include "framework/XMLHandler.h"
+#include "kernel/PathText.h"
 
 #include <QKeySequence>
 #include <exception>
@@ -12,8 +13,18 @@
 namespace Orvo::Kernel::Framework {
 
 namespace Events = UI::Events;
+namespace Directories = Kernel::Directories;
 
 namespace {
+
+// The portable text of a key sequence, as the repository keeps it: "ctrl+m" is kept as "Ctrl+M",
+// so that one key combination has one spelling. Text that is no key sequence is kept as it is.
+std::wstring NormalisedShortcut(const std::wstring& shortcut)
+{
+    const QKeySequence sequence
+        = QKeySequence::fromString(QString::fromStdWString(shortcut), QKeySequence::PortableText);
+    return sequence.isEmpty() ? shortcut : sequence.toString(QKeySequence::PortableText).toStdWString();
+}
 
 bool IsKeySequence(const std::wstring& shortcut)
 {
@@ -67,12 +78,11 @@ bool CommandRepository::LoadFile(const std::filesystem::path& path)
     XMLHandler document;
     const auto result = document.LoadFile(path);
     if (!result) {
-        DebugOutput(
-            QStringLiteral("Cannot read the commands file %1: %2")
-                .arg(QString::fromStdWString(path.wstring()), QString::fromUtf8(result.description())));
+        DebugOutput(QStringLiteral("Cannot read the commands file %1: %2")
+                        .arg(Directories::ToQString(path), QString::fromUtf8(result.description())));
         return false;
     }
-    return Load(document, path.wstring());
+    return Load(document, Directories::ToWString(path));
 }
 
 bool CommandRepository::LoadString(const std::wstring& xml)
@@ -109,6 +119,7 @@ bool CommandRepository::Load(const XMLHandler& document, const std::wstring& sou
                              QString::fromStdWString(command.shortcut)));
                 command.shortcut.clear();
             }
+            command.shortcut = NormalisedShortcut(command.shortcut);
             if (!index.emplace(command.uuid, commands.size()).second) {
                 DebugOutput(QStringLiteral("Command %1 appears twice in %2, the later one is left out")
                                 .arg(QString::fromStdWString(command.uuid), sourceName));
@@ -177,12 +188,38 @@ bool CommandRepository::SetShortcut(const std::wstring& uuid, const std::wstring
     CommandDefinition* command = Find(uuid);
     if (!command || !IsKeySequence(shortcut))
         return false;
-    if (command->shortcut != shortcut) {
-        command->shortcut = shortcut;
+    const std::wstring normalised = NormalisedShortcut(shortcut);
+    if (command->shortcut != normalised) {
+        command->shortcut = normalised;
         if (auto eventbus = m_eventbus.lock())
             eventbus->Post(Events::CommandShortcutChange(uuid));
     }
     return true;
+}
+
+std::vector<std::wstring> CommandRepository::FindCommandsWithShortcut(const std::wstring& shortcut) const
+{
+    std::vector<std::wstring> uuids;
+    const std::wstring normalised = NormalisedShortcut(shortcut);
+    if (normalised.empty())
+        return uuids;
+    for (const auto& command : m_commands) {
+        if (command.shortcut == normalised)
+            uuids.push_back(command.uuid);
+    }
+    return uuids;
+}
+
+bool CommandRepository::MoveShortcut(const std::wstring& uuid, const std::wstring& shortcut)
+{
+    if (!Find(uuid) || shortcut.empty() || !IsKeySequence(shortcut))
+        return false;
+    // Each change is announced at once, and a listener may reload the repository: walk a copy.
+    for (const std::wstring& owner : FindCommandsWithShortcut(shortcut)) {
+        if (owner != uuid)
+            SetShortcut(owner, {});
+    }
+    return SetShortcut(uuid, shortcut);
 }
 
 bool CommandRepository::SetGroupEnabled(const std::wstring& group, bool enabled)

@@ -37,6 +37,8 @@ public:
     bool SetCommandEnabled(const std::wstring& uuid, bool enabled) override;
     bool SetCommandVisible(const std::wstring& uuid, bool visible) override;
     bool SetShortcut(const std::wstring& uuid, const std::wstring& shortcut) override;
+    std::vector<std::wstring> FindCommandsWithShortcut(const std::wstring& shortcut) const override;
+    bool MoveShortcut(const std::wstring& uuid, const std::wstring& shortcut) override;
     bool SetGroupEnabled(const std::wstring& group, bool enabled) override;
 
     static constexpr const wchar_t* c_commands = L"commands";

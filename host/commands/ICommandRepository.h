@@ -21,11 +21,19 @@ public:
     // The commands that have a shortcut, in the repository's order.
     virtual std::vector<ShortcutEntry> GetShortcuts() const = 0;
 
+    // The commands bound to the same key combination as shortcut, however it is spelled
+    // ("ctrl+m" and "Ctrl+M" are one), in the repository's order.
+    virtual std::vector<std::wstring> FindCommandsWithShortcut(const std::wstring& shortcut) const = 0;
+
     // Each returns false, changing nothing, for an unknown command (or a shortcut text that
-    // is no key sequence); an empty shortcut removes the binding.
+    // is no key sequence); an empty shortcut removes the binding. Shortcuts are kept in the
+    // portable spelling of their key sequence.
     virtual bool SetCommandEnabled(const std::wstring& uuid, bool enabled) = 0;
     virtual bool SetCommandVisible(const std::wstring& uuid, bool visible) = 0;
     virtual bool SetShortcut(const std::wstring& uuid, const std::wstring& shortcut) = 0;
+    // Gives the command the shortcut and takes it from every other command that had it, so that
+    // one key combination runs one command. An empty shortcut is refused.
+    virtual bool MoveShortcut(const std::wstring& uuid, const std::wstring& shortcut) = 0;
     // Enables or disables every command of group; false when the group has no command.
     virtual bool SetGroupEnabled(const std::wstring& group, bool enabled) = 0;
 };

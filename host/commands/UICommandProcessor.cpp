@@ -5,12 +5,16 @@
 #include "framework/Debug.h"
 #include "framework/EventBus.h"
 
+#include <QUndoStack>
+
 namespace Orvo::Kernel::Framework {
 
 UICommandProcessor::UICommandProcessor(std::shared_ptr<ICommandRepository> repository,
-                                       std::weak_ptr<EventBus> eventbus)
+                                       std::weak_ptr<EventBus> eventbus,
+                                       std::shared_ptr<QUndoStack> undoStack)
     : m_repository(std::move(repository))
     , m_eventbus(std::move(eventbus))
+    , m_undoStack(std::move(undoStack))
 { }
 
 bool UICommandProcessor::ExecuteCommand(const std::wstring& uuid, const std::wstring& parameterString,
@@ -31,9 +35,27 @@ bool UICommandProcessor::ExecuteCommand(const std::wstring& uuid, const std::wst
     DebugOutput(QStringLiteral("Command %1 (%2) run by %3 with parameters \"%4\"")
                     .arg(QString::fromStdWString(command->nameId), commandText, originText,
                          QString::fromStdWString(parameterString)));
+    WalkUndoStack(uuid);
     if (auto eventbus = m_eventbus.lock())
         eventbus->Post(UI::Events::CommandExecuted(uuid, parameterString, origin));
     return true;
+}
+
+void UICommandProcessor::WalkUndoStack(const std::wstring& uuid) const
+{
+    const bool undo = uuid == c_undoCommand;
+    if (!m_undoStack || (!undo && uuid != c_redoCommand))
+        return;
+    if (undo ? !m_undoStack->canUndo() : !m_undoStack->canRedo()) {
+        DebugOutput(undo ? "Nothing to undo" : "Nothing to redo");
+        return;
+    }
+    DebugOutput(QStringLiteral("%1: %2").arg(undo ? QStringLiteral("Undo") : QStringLiteral("Redo"),
+                                             undo ? m_undoStack->undoText() : m_undoStack->redoText()));
+    if (undo)
+        m_undoStack->undo();
+    else
+        m_undoStack->redo();
 }
 
 } // namespace Orvo::Kernel::Framework

@@ -5,6 +5,8 @@
 
 #include <memory>
 
+class QUndoStack;
+
 namespace Orvo::Kernel::Framework {
 
 class EventBus;
@@ -12,18 +14,25 @@ class ICommandRepository;
 
 // Runs a command by posting Orvo::UI::Events::CommandExecuted, which the application's command
 // handlers act on, and records it on the debugger output. Unknown and disabled commands are
-// refused with a message.
+// refused with a message. Undo and Redo walk the host's undo stack.
 class HOSTKIT_EXPORT UICommandProcessor : public IUICommandProcessor
 {
 public:
-    UICommandProcessor(std::shared_ptr<ICommandRepository> repository, std::weak_ptr<EventBus> eventbus);
+    static constexpr const wchar_t* c_undoCommand = L"c6d02f75-d199-457a-9a4d-f1246cb8feb4";
+    static constexpr const wchar_t* c_redoCommand = L"2e4dd56a-f2b6-489b-9dd5-b3ee6a66e276";
+
+    UICommandProcessor(std::shared_ptr<ICommandRepository> repository, std::weak_ptr<EventBus> eventbus,
+                       std::shared_ptr<QUndoStack> undoStack = nullptr);
 
     bool ExecuteCommand(const std::wstring& uuid, const std::wstring& parameterString,
                         const std::wstring& origin) override;
 
 private:
+    void WalkUndoStack(const std::wstring& uuid) const;
+
     std::shared_ptr<ICommandRepository> m_repository;
     std::weak_ptr<EventBus> m_eventbus;
+    std::shared_ptr<QUndoStack> m_undoStack;
 };
 
 } // namespace Orvo::Kernel::Framework

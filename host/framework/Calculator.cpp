@@ -5,9 +5,13 @@
 #include <muParserBase.h>
 
 #include <algorithm>
+#include <array>
 #include <charconv>
 #include <cmath>
 #include <exception>
+#include <optional>
+#include <utility>
+#include <vector>
 
 namespace Orvo::Kernel::Framework {
 
@@ -66,26 +70,6 @@ std::size_t ReadNumber(const char* text, double& value)
     return parsed.ec == std::errc() ? end : 0;
 }
 
-template<int Exponent> double ScaleByPowerOfTen(double value)
-{
-    constexpr double factor = [] {
-        double power = 1.0;
-        for (int i = 0; i < (Exponent < 0 ? -Exponent : Exponent); ++i)
-            power *= 10.0;
-        return power;
-    }();
-    // Dividing by an exact power of ten rounds once; multiplying by 0.001 would round twice.
-    if constexpr (Exponent < 0)
-        return value / factor;
-    else
-        return value * factor;
-}
-
-double DegreesToRadians(double value)
-{
-    return value * (c_pi / 180.0);
-}
-
 double Minimum(const double* arguments, int count)
 {
     if (count < 1)
@@ -122,19 +106,72 @@ const std::pair<const char*, UnaryFunction> c_functions[] = {
     { "floor", [](double v) { return std::floor(v); } }, { "ceil", [](double v) { return std::ceil(v); } },
 };
 
-// Each unit scales the value before it to the SI base unit of its quantity.
-const std::pair<const char*, UnaryFunction> c_units[] = {
-    { "mm", &ScaleByPowerOfTen<-3> }, { "cm", &ScaleByPowerOfTen<-2> }, { "dm", &ScaleByPowerOfTen<-1> },
-    { "m", &ScaleByPowerOfTen<0> },   { "km", &ScaleByPowerOfTen<3> },  { "N", &ScaleByPowerOfTen<0> },
-    { "kN", &ScaleByPowerOfTen<3> },  { "MN", &ScaleByPowerOfTen<6> },  { "Pa", &ScaleByPowerOfTen<0> },
-    { "kPa", &ScaleByPowerOfTen<3> }, { "MPa", &ScaleByPowerOfTen<6> }, { "GPa", &ScaleByPowerOfTen<9> },
-    { "deg", &DegreesToRadians },     { "rad", &ScaleByPowerOfTen<0> },
+constexpr std::size_t c_unitCount = CalculatorUnits::c_units.size();
+
+// What the units of one evaluation do besides scaling to SI: each base quantity can be rescaled
+// (how the result follows tells its dimension), and every unit records that it was used.
+struct BaseScales
+{
+    double length = 1.0;
+    double force = 1.0;
+    double angle = 1.0;
 };
+
+struct UnitEvaluation
+{
+    BaseScales scales;
+    std::array<bool, c_unitCount> used {};
+    std::vector<std::size_t> order;
+
+    void Reset(const BaseScales& newScales)
+    {
+        scales = newScales;
+        used.fill(false);
+        order.clear();
+    }
+};
+
+thread_local UnitEvaluation t_units;
+
+double PowerOf(double base, int exponent)
+{
+    double power = 1.0;
+    for (int i = 0; i < std::abs(exponent); ++i)
+        power *= base;
+    return exponent < 0 ? 1.0 / power : power;
+}
+
+template<std::size_t Index> double ApplyUnit(double value)
+{
+    constexpr const CalculatorUnit& unit = CalculatorUnits::c_units[Index];
+    if (!t_units.used[Index]) {
+        t_units.used[Index] = true;
+        t_units.order.push_back(Index);
+    }
+    const double scale = PowerOf(t_units.scales.length, unit.dimension.length)
+        * PowerOf(t_units.scales.force, unit.dimension.force) * (unit.angle ? t_units.scales.angle : 1.0);
+    // A unit below its base unit divides by the exact power of ten: multiplying by 0.001 would
+    // round twice.
+    const double inverse = 1.0 / unit.factor;
+    if (unit.factor < 1.0 && inverse == std::round(inverse))
+        return value * scale / inverse;
+    return value * unit.factor * scale;
+}
+
+template<std::size_t... Index>
+constexpr std::array<UnaryFunction, c_unitCount> UnitFunctions(std::index_sequence<Index...>)
+{
+    return { &ApplyUnit<Index>... };
+}
+
+constexpr std::array<UnaryFunction, c_unitCount> c_unitFunctions
+    = UnitFunctions(std::make_index_sequence<c_unitCount>());
 
 // muparser configured with exactly the calculator's grammar: no variables, no comparison or
 // logical operators (CharactersOfGrammar keeps them out), ";" between function arguments so that
 // "," can be a decimal mark, and the units as postfix operators so that they apply to a
-// parenthesis as well as to a number.
+// parenthesis as well as to a number. Units are never folded into constants at parse time, so that
+// one parsed expression can be evaluated again with rescaled base quantities.
 class CalculatorParser : public mu::ParserBase
 {
 public:
@@ -173,8 +210,10 @@ public:
     {
         DefineInfixOprt("-", &Negate);
         DefineInfixOprt("+", &Unchanged);
-        for (const auto& [name, scale] : c_units)
-            DefinePostfixOprt(name, scale);
+        for (std::size_t i = 0; i < c_unitCount; ++i) {
+            const std::wstring_view symbol = CalculatorUnits::c_units[i].symbol;
+            DefinePostfixOprt(std::string(symbol.begin(), symbol.end()), c_unitFunctions[i], false);
+        }
     }
 
 private:
@@ -257,7 +296,108 @@ bool EvaluatePlainNumber(const std::wstring& expression, double& value)
     return true;
 }
 
+// How a result scales when a base quantity is rescaled by factor: the exponent of that quantity,
+// or nullopt when it does not scale as a power (units added to other units, a unit inside sin).
+std::optional<int> ScalingExponent(double base, double rescaled, double factor)
+{
+    const double ratio = rescaled / base;
+    if (!(ratio > 0.0) || !std::isfinite(ratio))
+        return std::nullopt;
+    const double exponent = std::log(ratio) / std::log(factor);
+    const double whole = std::round(exponent);
+    if (std::fabs(exponent - whole) > 1e-9 || std::fabs(whole) > 16)
+        return std::nullopt;
+    return static_cast<int>(whole);
+}
+
+// The parser of this thread with expression set, or null when expression is outside the grammar.
+CalculatorParser* ParserFor(const std::wstring& expression)
+{
+    thread_local std::string narrow;
+    if (expression.size() > Calculator::c_maximumExpressionLength || !CharactersOfGrammar(expression, narrow))
+        return nullptr;
+    thread_local CalculatorParser parser;
+    parser.SetExpr(narrow);
+    return &parser;
+}
+
+// Evaluates the parser's expression with the base quantities rescaled; nullopt unless there is
+// exactly one finite result.
+std::optional<double> EvaluateScaled(CalculatorParser& parser, const BaseScales& scales = {})
+{
+    t_units.Reset(scales);
+    const double result = parser.Eval();
+    // A top-level ";" makes muparser return several results; a numeric field wants one.
+    if (parser.GetNumResults() != 1 || !std::isfinite(result))
+        return std::nullopt;
+    return result;
+}
+
+template<class Function> auto Guarded(Function function) -> decltype(function())
+{
+    try {
+        return function();
+    } catch (const mu::ParserError&) {
+        return {};
+    } catch (const std::exception& exception) {
+        DebugOutput(std::string("Calculator: ") + exception.what());
+        return {};
+    } catch (...) {
+        DebugOutput("Calculator: unknown failure");
+        return {};
+    }
+}
+
+// The units named, in the order they were applied, with the dimension they share if they do.
+void DescribeUnits(CalculatorQuantity& quantity)
+{
+    for (const std::size_t index : t_units.order)
+        quantity.units.push_back(&CalculatorUnits::c_units[index]);
+    quantity.namesUnits = !quantity.units.empty();
+}
+
 } // namespace
+
+std::optional<CalculatorQuantity> Calculator::EvaluateQuantity(const std::wstring& expression)
+{
+    CalculatorQuantity quantity;
+    if (EvaluatePlainNumber(expression, quantity.value)) {
+        quantity.dimension = CalculatorUnits::c_number;
+        return quantity;
+    }
+    return Guarded([&]() -> std::optional<CalculatorQuantity> {
+        CalculatorParser* parser = ParserFor(expression);
+        if (!parser)
+            return std::nullopt;
+        const std::optional<double> value = EvaluateScaled(*parser);
+        if (!value)
+            return std::nullopt;
+        quantity.value = *value;
+        DescribeUnits(quantity);
+        if (!quantity.namesUnits) {
+            quantity.dimension = CalculatorUnits::c_number;
+            return quantity;
+        }
+        // Rescaling metres by 2, newtons by 3 and radians by 5 multiplies a moment by 6, a stress
+        // by 3/4 and an angle by 5: how the value follows gives its dimension. An angle that went
+        // into sin or cos follows no power and leaves a plain number. A zero value follows nothing
+        // and leaves the dimension open.
+        constexpr BaseScales factors { 2.0, 3.0, 5.0 };
+        const auto lengthRescaled = EvaluateScaled(*parser, { factors.length, 1.0, 1.0 });
+        const auto forceRescaled = EvaluateScaled(*parser, { 1.0, factors.force, 1.0 });
+        const auto angleRescaled = EvaluateScaled(*parser, { 1.0, 1.0, factors.angle });
+        if (*value == 0.0 || !lengthRescaled || !forceRescaled || !angleRescaled)
+            return quantity;
+        const auto length = ScalingExponent(*value, *lengthRescaled, factors.length);
+        const auto force = ScalingExponent(*value, *forceRescaled, factors.force);
+        quantity.unitsFit = length.has_value() && force.has_value();
+        if (quantity.unitsFit)
+            quantity.dimension = UnitDimension { *length, *force };
+        quantity.angle = quantity.dimension == CalculatorUnits::c_number
+            && ScalingExponent(*value, *angleRescaled, factors.angle) == 1;
+        return quantity;
+    });
+}
 
 bool Calculator::Evaluate(const std::wstring& expression, double& value)
 {
@@ -266,28 +406,14 @@ bool Calculator::Evaluate(const std::wstring& expression, double& value)
         value = result;
         return true;
     }
-
-    try {
-        thread_local std::string narrow;
-        if (!CharactersOfGrammar(expression, narrow))
-            return false;
-        thread_local CalculatorParser parser;
-        parser.SetExpr(narrow);
-        result = parser.Eval();
-        // A top-level ";" makes muparser return several results; a numeric field wants one.
-        if (parser.GetNumResults() != 1 || !std::isfinite(result))
-            return false;
-        value = result;
-        return true;
-    } catch (const mu::ParserError&) {
+    const std::optional<double> evaluated = Guarded([&]() -> std::optional<double> {
+        CalculatorParser* parser = ParserFor(expression);
+        return parser ? EvaluateScaled(*parser) : std::nullopt;
+    });
+    if (!evaluated)
         return false;
-    } catch (const std::exception& exception) {
-        DebugOutput(std::string("Calculator: ") + exception.what());
-        return false;
-    } catch (...) {
-        DebugOutput("Calculator: unknown failure");
-        return false;
-    }
+    value = *evaluated;
+    return true;
 }
 
 } // namespace Orvo::Kernel::Framework

@@ -6,19 +6,25 @@
 #include "IdleEventSource.h"
 #include "ServiceCatalog.h"
 #include "TranslationStringLoader.h"
+#include "analysis/AnalysisService.h"
 #include "basiccomponents/NumberFormatSettings.h"
+#include "commands/CommandHistory.h"
 #include "commands/CommandRepository.h"
 #include "commands/INeedCommandRepository.h"
 #include "commands/INeedUICommandProcessor.h"
 #include "commands/UICommandProcessor.h"
+#include "datamodel/Settings.h"
+#include "graphic/AnalysisResultsSource.h"
+#include "graphic/GraphicsService.h"
 #include "kernel/Directories.h"
 #include "properties/StructuralModel.h"
-#include "properties/StructuralObjectTypes.h"
 #include "qtextensions/ComponentConfigurationStore.h"
 #include "qtextensions/MessageBoxService.h"
 #include "qtextensions/ShellQmlContext.h"
+#include "tables/TableDataCatalog.h"
 
 #include <QLocale>
+#include <QUndoStack>
 
 static void initHostKitResources()
 {
@@ -59,27 +65,46 @@ void DefaultServices::Install(ServiceCatalog& catalog)
 {
     auto eventBus = std::make_shared<EventBus>();
     catalog.Register<EventBus>(eventBus);
+    // Listening from the start, so that what ran before any view opened is known.
+    catalog.Register<CommandHistory>(std::make_shared<CommandHistory>(eventBus));
     catalog.Register<IStringLoader>(CreateStringLoader());
     catalog.Register<UI::BasicComponents::NumberFormatSettings>(
-        std::make_shared<UI::BasicComponents::NumberFormatSettings>());
+        std::make_shared<UI::BasicComponents::NumberFormatSettings>(eventBus));
     catalog.Register<UI::QtExtensions::ComponentConfigurationStore>(
         std::make_shared<UI::QtExtensions::ComponentConfigurationStore>(
-            Directories::GetDirectory(Directories::DirectoryType::UserConfigurationDirectory) / "components.json",
+            Directories::GetDirectory(Directories::DirectoryType::UserConfigurationDirectory)
+                / "components.json",
             Directories::GetDirectory(Directories::DirectoryType::ApplicationDirectory) / "Configuration"
                 / "DefaultUserConfiguration"));
-    // The structural model starts empty; a host loads its objects into it.
-    auto structuralModel = std::make_shared<StructuralModel>(eventBus);
-    StructuralObjectTypes::RegisterAll(*structuralModel);
+    // One undo stack for every change a user makes; the structural model starts empty, a host
+    // loads its objects into it.
+    auto undoStack = std::make_shared<QUndoStack>();
+    catalog.Register<QUndoStack>(undoStack);
+    auto structuralModel
+        = std::make_shared<StructuralModel>(eventBus, undoStack, catalog.Get<IStringLoader>());
     catalog.Register<StructuralModel>(structuralModel);
+    auto tables = std::make_shared<Tables::TableDataCatalog>(structuralModel, eventBus);
+    catalog.Register<Tables::TableDataCatalog>(tables);
+    catalog.Register<Analysis::AnalysisService>(std::make_shared<Analysis::AnalysisService>(
+        structuralModel, tables, eventBus, catalog.Get<IStringLoader>()));
+    auto settings = std::make_shared<UI::DataModel::Settings>(
+        Directories::GetDirectory(Directories::DirectoryType::UserConfigurationDirectory) / "Settings.ini",
+        eventBus);
+    catalog.Register<UI::DataModel::Settings>(settings);
+    auto graphics = std::make_shared<Graphic::GraphicsService>(structuralModel, eventBus, settings);
+    catalog.Register<Graphic::GraphicsService>(graphics);
+    // The views show the analysis's results as soon as it has them.
+    Graphic::AnalysisResultsSource::Install(catalog.Get<Analysis::AnalysisService>(), *graphics);
     catalog.Register<IdleEventSource>(std::make_shared<IdleEventSource>(catalog.Get<EventBus>()));
     auto commandRepository = CreateCommandRepository(catalog.Get<EventBus>());
     catalog.Register<ICommandRepository>(commandRepository);
     catalog.Register<IUICommandProcessor>(
-        std::make_shared<UICommandProcessor>(commandRepository, catalog.Get<EventBus>()));
+        std::make_shared<UICommandProcessor>(commandRepository, catalog.Get<EventBus>(), undoStack));
     catalog.Register<UI::QtExtensions::MessageBoxService>(
         std::make_shared<UI::QtExtensions::MessageBoxService>(catalog.Get<EventBus>()));
     // Empty until the host's engine exists: the host registers its root context then.
-    catalog.Register<UI::QtExtensions::ShellQmlContext>(std::make_shared<UI::QtExtensions::ShellQmlContext>());
+    catalog.Register<UI::QtExtensions::ShellQmlContext>(
+        std::make_shared<UI::QtExtensions::ShellQmlContext>());
 
     catalog.AddInjector([](IServiceClient& client, ServiceCatalog& services) {
         if (auto* needsBus = dynamic_cast<INeedEventbus*>(&client))

@@ -5,18 +5,21 @@
 
 namespace Orvo::Kernel::Framework {
 
-ObjectType::ObjectType(QString key, QString nameId, QString pluralNameId)
-    : m_key(std::move(key))
-    , m_nameId(std::move(nameId))
-    , m_pluralNameId(std::move(pluralNameId))
+ObjectType::ObjectType(Model::ObjectKind kind, QString key)
+    : m_kind(kind)
+    , m_key(std::move(key))
+    , m_nameId(Model::ModelMessage::KindNameId(kind))
+    , m_pluralNameId(Model::ModelMessage::KindPluralNameId(kind))
 { }
 
 ObjectType& ObjectType::AddProperty(PropertyDefinition definition)
 {
     if (FindProperty(definition.key))
         throw std::invalid_argument("An object type has two properties with one key");
-    if (!definition.Check(definition.defaultValue).isEmpty())
+    if (definition.hasDefault && !definition.Check(definition.defaultValue).IsEmpty())
         throw std::invalid_argument("A property's default value does not fit the property");
+    if (!definition.read)
+        throw std::invalid_argument("A property needs a reader");
     m_properties.push_back(std::move(definition));
     return *this;
 }

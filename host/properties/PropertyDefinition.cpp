@@ -1,6 +1,7 @@
 #include "PropertyDefinition.h"
 
 #include <QUuid>
+#include <algorithm>
 #include <cmath>
 #include <stdexcept>
 
@@ -36,6 +37,7 @@ PropertyDefinition& PropertyDefinition::WithCategory(QString categoryId_, QStrin
 PropertyDefinition& PropertyDefinition::WithDefault(PropertyValue value)
 {
     defaultValue = std::move(value);
+    hasDefault = true;
     return *this;
 }
 
@@ -92,22 +94,77 @@ PropertyDefinition& PropertyDefinition::AsReadOnly()
     return *this;
 }
 
+PropertyDefinition& PropertyDefinition::AsRequired()
+{
+    required = true;
+    return *this;
+}
+
 PropertyDefinition& PropertyDefinition::HiddenWhenValuesDiffer()
 {
     visibleWhenValuesDiffer = false;
     return *this;
 }
 
-QString PropertyDefinition::Check(const PropertyValue& value) const
+PropertyDefinition& PropertyDefinition::Bind(Reader reader, Writer writer)
 {
-    if (value.index() != ValueIndexOf(type))
-        return QStringLiteral("%1 takes a %2 value, not %3").arg(key, TypeName(type), DescribeValue(value));
+    read = std::move(reader);
+    write = std::move(writer);
+    if (!write)
+        readOnly = true;
+    return *this;
+}
 
-    const auto outOfRange = [this](double number) -> QString {
+PropertyDefinition& PropertyDefinition::AppliesWhen(Condition condition)
+{
+    applies = std::move(condition);
+    return *this;
+}
+
+PropertyDefinition& PropertyDefinition::WithIllustrationFor(IllustrationChooser chooser)
+{
+    illustrationChooser = std::move(chooser);
+    return *this;
+}
+
+bool PropertyDefinition::AppliesTo(const Model::Structure& structure, std::size_t index) const
+{
+    return !applies || applies(structure, index);
+}
+
+QString PropertyDefinition::IllustrationFor(const Model::Structure& structure, std::size_t index) const
+{
+    return illustrationChooser ? illustrationChooser(structure, index) : illustration;
+}
+
+int PropertyDefinition::ParameterIndexOf(const PropertyValue& value) const
+{
+    auto it = std::find_if(parameters.begin(), parameters.end(),
+                           [&value](const NamedParameter& parameter) { return parameter.value == value; });
+    return it == parameters.end() ? -1 : int(it - parameters.begin());
+}
+
+bool PropertyDefinition::DiffersFromDefault(const PropertyValue& value) const
+{
+    return !readOnly && hasDefault && value != defaultValue;
+}
+
+QString PropertyDefinition::Describe(const Model::ModelMessage& message) const
+{
+    return QStringLiteral("%1: %2").arg(key, message.ToText(nullptr));
+}
+
+Model::ModelMessage PropertyDefinition::Check(const PropertyValue& value) const
+{
+    using Model::ModelMessage;
+    if (value.index() != ValueIndexOf(type))
+        return ModelMessage(QStringLiteral("UI_MODEL_ERROR_WRONG_TYPE"), { DescribeValue(value) });
+
+    const auto outOfRange = [this](double number) -> ModelMessage {
         if (minimum && number < *minimum)
-            return QStringLiteral("%1: %2 is below the minimum %3").arg(key).arg(number).arg(*minimum);
+            return ModelMessage(QStringLiteral("UI_MODEL_ERROR_BELOW_MINIMUM"), { number, *minimum });
         if (maximum && number > *maximum)
-            return QStringLiteral("%1: %2 is above the maximum %3").arg(key).arg(number).arg(*maximum);
+            return ModelMessage(QStringLiteral("UI_MODEL_ERROR_ABOVE_MAXIMUM"), { number, *maximum });
         return {};
     };
     switch (type) {
@@ -116,17 +173,19 @@ QString PropertyDefinition::Check(const PropertyValue& value) const
     case PropertyType::Real: {
         const double number = std::get<double>(value);
         if (!std::isfinite(number))
-            return QStringLiteral("%1: %2 is not a finite number").arg(key, DescribeValue(value));
+            return ModelMessage(QStringLiteral("UI_MODEL_ERROR_NOT_A_NUMBER"));
         return outOfRange(number);
     }
     case PropertyType::List: {
         const auto choice = std::get<std::int32_t>(value);
         if (choice < 0 || choice >= choiceIds.size())
-            return QStringLiteral("%1: choice %2 does not exist").arg(key).arg(choice);
+            return ModelMessage(QStringLiteral("UI_MODEL_ERROR_NO_CHOICE"), { QString::number(choice) });
         return {};
     }
     case PropertyType::Color:
-        return std::get<QColor>(value).isValid() ? QString() : QStringLiteral("%1: invalid colour").arg(key);
+        return std::get<QColor>(value).isValid()
+            ? ModelMessage()
+            : ModelMessage(QStringLiteral("UI_MODEL_ERROR_NOT_A_COLOUR"));
     case PropertyType::Bool:
     case PropertyType::String:
         return {};

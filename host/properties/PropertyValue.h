@@ -1,6 +1,7 @@
 #pragma once
 
 #include "HostKitExport.h"
+#include "model/ObjectIds.h"
 
 #include <QColor>
 #include <QString>
@@ -9,8 +10,8 @@
 
 namespace Orvo::Kernel::Framework {
 
-// Identifies one object of the structural model; numbers are never reused.
-using ObjectId = std::int32_t;
+// Identifies one object of the structural model: its kind and its number within the kind.
+using Model::ObjectId;
 
 // The value type of a property. The numbering is shared with the table value types, so the
 // UI can treat a property row and a table cell of the same type alike.

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "PropertyValue.h"
+#include "model/ModelRecords.h"
 
 #include <QString>
 #include <vector>
@@ -14,16 +15,18 @@ struct SelectionChangedEvent
 };
 
 // Posted when property values of objects changed. An empty key means that any property of
-// those objects may have changed (an action ran).
+// those objects may have changed (an action ran, a step was undone).
 struct ObjectValuesChangedEvent
 {
     std::vector<ObjectId> objects;
     QString propertyKey;
 };
 
-// Posted when objects were added to or removed from the model.
+// Posted when objects were added to or removed from the model: of the kinds listed, or of any
+// kind when the list is empty (the whole structure was replaced).
 struct StructureChangedEvent
 {
+    std::vector<Model::ObjectKind> kinds;
 };
 
 } // namespace Orvo::Kernel::Framework

@@ -1,284 +1,221 @@
 #include "StructuralObjectTypes.h"
 
-#include "StructuralModel.h"
+#include "CommonProperties.h"
+#include "LoadObjectTypes.h"
+#include "SectionObjectTypes.h"
+
+#include <array>
 
 namespace Orvo::Kernel::Framework {
 
 namespace {
 
-const QString c_general = QStringLiteral("UI_PROPERTIES_CATEGORY_GENERAL");
-const QString c_geometry = QStringLiteral("UI_PROPERTIES_CATEGORY_GEOMETRY");
-const QString c_support = QStringLiteral("UI_PROPERTIES_CATEGORY_SUPPORT");
-const QString c_crossSection = QStringLiteral("UI_PROPERTIES_CATEGORY_CROSS_SECTION");
-const QString c_material = QStringLiteral("UI_PROPERTIES_CATEGORY_MATERIAL");
-const QString c_releases = QStringLiteral("UI_PROPERTIES_CATEGORY_RELEASES");
-const QString c_analysis = QStringLiteral("UI_PROPERTIES_CATEGORY_ANALYSIS");
-const QString c_display = QStringLiteral("UI_PROPERTIES_CATEGORY_DISPLAY");
+using namespace Model;
+using namespace Categories;
 
-const QString c_crossSectionIllustration = QStringLiteral("Illustrations/CrossSection.qml");
+// The end conditions a user picks for a member end, as the member forces they release (N, Vy,
+// Vz, T, My, Mz).
+constexpr std::array<DofMask, 5> c_releaseChoices { 0, Dof(4) | Dof(5), Dof(4), Dof(5),
+                                                    Dof(3) | Dof(4) | Dof(5) };
 
-PropertyValue Integer(std::int32_t value)
+constexpr std::array<DofMask, 3> c_supportChoices { c_allDofs, c_translations, Dof(2) };
+
+template<std::size_t N> std::int32_t ChoiceOf(const std::array<DofMask, N>& choices, DofMask mask)
 {
-    return value;
+    for (std::size_t i = 0; i < N; ++i) {
+        if (choices[i] == mask)
+            return std::int32_t(i);
+    }
+    return std::int32_t(N);
 }
 
-// Every object type starts with the same general properties and ends with the same display
-// properties, so a mixed selection still has something in common to edit.
-void AddGeneralProperties(ObjectType& type)
+PropertyDefinition Coordinate(const QString& key, const QString& nameId, double Node::*field)
 {
-    type.AddProperty(PropertyDefinition(StructuralModel::c_numberProperty, PropertyType::Integer,
-                                        QStringLiteral("UI_PROP_NUMBER"))
-                         .WithCategory(c_general)
-                         .AsReadOnly()
-                         .HiddenWhenValuesDiffer());
-    type.AddProperty(PropertyDefinition(QStringLiteral("general.name"), PropertyType::String,
-                                        QStringLiteral("UI_PROP_NAME"))
-                         .WithCategory(c_general)
-                         .HiddenWhenValuesDiffer());
-    type.AddProperty(PropertyDefinition(QStringLiteral("general.comment"), PropertyType::String,
-                                        QStringLiteral("UI_PROP_COMMENT"))
-                         .WithCategory(c_general)
-                         .AsAdvanced());
+    return BindField(Quantity(key, nameId, c_geometry, QStringLiteral("m"), 3)
+                         .WithCategory(c_geometry, { QStringLiteral("UI_PROPERTIES_SUB_COORDINATES") })
+                         .WithRange(-1.0e5, 1.0e5),
+                     field);
 }
 
-void AddDisplayProperties(ObjectType& type, const QColor& colour)
+PropertyDefinition Release(const QString& key, const QString& nameId, DofMask Member::*field)
 {
-    type.AddProperty(PropertyDefinition(QStringLiteral("display.color"), PropertyType::Color,
-                                        QStringLiteral("UI_PROP_COLOR"))
-                         .WithCategory(c_display)
-                         .WithDefault(colour));
-    type.AddProperty(PropertyDefinition(QStringLiteral("display.showLabel"), PropertyType::Bool,
-                                        QStringLiteral("UI_PROP_SHOW_LABEL"))
-                         .WithCategory(c_display)
-                         .WithDefault(true)
-                         .AsAdvanced());
+    return PropertyDefinition(key, PropertyType::List, nameId)
+        .WithCategory(c_releases)
+        .WithChoices({ QStringLiteral("UI_CHOICE_RELEASE_RIGID"), QStringLiteral("UI_CHOICE_RELEASE_HINGE"),
+                       QStringLiteral("UI_CHOICE_RELEASE_HINGE_Y"),
+                       QStringLiteral("UI_CHOICE_RELEASE_HINGE_Z"),
+                       QStringLiteral("UI_CHOICE_RELEASE_ALL_MOMENTS") })
+        .WithDefault(std::int32_t { 0 })
+        .AsAdvanced()
+        .Bind(
+            [field](const Structure& structure, std::size_t index) {
+                return PropertyValue(ChoiceOf(c_releaseChoices, structure.Members().At(index).*field) % 5);
+            },
+            [field](Structure& structure, std::size_t index, const PropertyValue& value) {
+                structure.Members().At(index).*field
+                    = c_releaseChoices[std::size_t(std::get<std::int32_t>(value))];
+                return ModelMessage();
+            });
 }
 
-PropertyDefinition Length(const QString& key, const QString& nameId, const QString& category,
-                          const QStringList& subcategories)
+PropertyDefinition Fixity(int dof, const QString& nameId)
 {
-    return PropertyDefinition(key, PropertyType::Real, nameId)
-        .WithCategory(category, subcategories)
-        .WithUnits(QStringLiteral("m"), 3)
-        .WithRange(-1.0e5, 1.0e5);
+    return PropertyDefinition(QStringLiteral("support.fixed%1").arg(dof), PropertyType::Bool, nameId)
+        .WithCategory(Categories::c_support, { QStringLiteral("UI_PROPERTIES_SUB_FIXITIES") })
+        .AsAdvanced()
+        .Bind(
+            [dof](const Structure& structure, std::size_t index) {
+                return PropertyValue((structure.Supports().At(index).fixed & Dof(dof)) != 0);
+            },
+            [dof](Structure& structure, std::size_t index, const PropertyValue& value) {
+                DofMask& fixed = structure.Supports().At(index).fixed;
+                fixed = std::get<bool>(value) ? DofMask(fixed | Dof(dof)) : DofMask(fixed & ~Dof(dof));
+                return ModelMessage();
+            });
 }
 
-PropertyDefinition Stiffness(const QString& key, const QString& nameId, const QStringList& subcategories,
-                             const QString& units)
+PropertyDefinition Spring(int dof, const QString& nameId, const QString& units)
 {
-    return PropertyDefinition(key, PropertyType::Real, nameId)
-        .WithCategory(c_support, subcategories)
+    return PropertyDefinition(QStringLiteral("support.spring%1").arg(dof), PropertyType::Real, nameId)
+        .WithCategory(Categories::c_support, { QStringLiteral("UI_PROPERTIES_SUB_SPRINGS") })
         .WithUnits(units, 1)
         .WithRange(0.0, std::nullopt)
+        .WithDefault(0.0)
         .WithRichTextName()
-        .AsAdvanced();
-}
-
-PropertyDefinition SectionDimension(const QString& key, const QString& nameId,
-                                    const QStringList& subcategories, double defaultValue)
-{
-    return PropertyDefinition(key, PropertyType::Real, nameId)
-        .WithCategory(c_crossSection, subcategories)
-        .WithUnits(QStringLiteral("mm"), 1)
-        .WithRange(1.0, 5000.0)
-        .WithDefault(defaultValue)
-        .WithIllustration(c_crossSectionIllustration);
+        .AsAdvanced()
+        // A spring only acts where the support leaves the node free.
+        .AppliesWhen([dof](const Structure& structure, std::size_t index) {
+            return (structure.Supports().At(index).fixed & Dof(dof)) == 0;
+        })
+        .Bind(
+            [dof](const Structure& structure, std::size_t index) {
+                return PropertyValue(structure.Supports().At(index).springs[std::size_t(dof)]);
+            },
+            [dof](Structure& structure, std::size_t index, const PropertyValue& value) {
+                structure.Supports().At(index).springs[std::size_t(dof)] = std::get<double>(value);
+                return ModelMessage();
+            });
 }
 
 } // namespace
 
+std::vector<ObjectType> StructuralObjectTypes::CreateAll()
+{
+    std::vector<ObjectType> types;
+    types.push_back(CreateNode());
+    types.push_back(CreateMember());
+    types.push_back(CreateSupport());
+    types.push_back(SectionObjectTypes::CreateCrossSection());
+    types.push_back(SectionObjectTypes::CreateMaterial());
+    types.push_back(LoadObjectTypes::CreateLoadCase());
+    types.push_back(LoadObjectTypes::CreateNodalLoad());
+    types.push_back(LoadObjectTypes::CreateMemberLoad());
+    types.push_back(LoadObjectTypes::CreateCombination());
+    return types;
+}
+
 ObjectType StructuralObjectTypes::CreateNode()
 {
-    ObjectType node(c_node, QStringLiteral("UI_OBJECT_NODE"), QStringLiteral("UI_OBJECT_NODES"));
-    AddGeneralProperties(node);
-    const QStringList coordinates { QStringLiteral("UI_PROPERTIES_SUB_COORDINATES") };
-    node.AddProperty(Length(QStringLiteral("node.x"), QStringLiteral("UI_PROP_X"), c_geometry, coordinates));
-    node.AddProperty(Length(QStringLiteral("node.y"), QStringLiteral("UI_PROP_Y"), c_geometry, coordinates));
-    node.AddProperty(Length(QStringLiteral("node.z"), QStringLiteral("UI_PROP_Z"), c_geometry, coordinates));
-    node.AddProperty(
-        PropertyDefinition(QStringLiteral("node.coordinateSystem"), PropertyType::List,
-                           QStringLiteral("UI_PROP_COORDINATE_SYSTEM"))
-            .WithCategory(c_geometry)
-            .WithChoices({ QStringLiteral("UI_CHOICE_GLOBAL"), QStringLiteral("UI_CHOICE_LOCAL") })
-            .AsAdvanced());
-    node.AddProperty(PropertyDefinition(QStringLiteral("node.supportType"), PropertyType::List,
-                                        QStringLiteral("UI_PROP_SUPPORT_TYPE"))
-                         .WithCategory(c_support)
-                         .WithChoices({ QStringLiteral("UI_CHOICE_SUPPORT_FREE"),
-                                        QStringLiteral("UI_CHOICE_SUPPORT_PINNED"),
-                                        QStringLiteral("UI_CHOICE_SUPPORT_FIXED"),
-                                        QStringLiteral("UI_CHOICE_SUPPORT_ROLLER") })
-                         .WithIllustration(QStringLiteral("Illustrations/SupportTypes.qml")));
-    const QStringList springs { QStringLiteral("UI_PROPERTIES_SUB_SPRINGS") };
-    const QStringList rotational { QStringLiteral("UI_PROPERTIES_SUB_SPRINGS"),
-                                   QStringLiteral("UI_PROPERTIES_SUB_ROTATIONAL_SPRINGS") };
-    const QString force = QStringLiteral("kN/m");
-    const QString moment = QStringLiteral("kNm/rad");
-    node.AddProperty(
-        Stiffness(QStringLiteral("node.springX"), QStringLiteral("UI_PROP_SPRING_X"), springs, force));
-    node.AddProperty(
-        Stiffness(QStringLiteral("node.springY"), QStringLiteral("UI_PROP_SPRING_Y"), springs, force));
-    node.AddProperty(
-        Stiffness(QStringLiteral("node.springZ"), QStringLiteral("UI_PROP_SPRING_Z"), springs, force));
-    node.AddProperty(Stiffness(QStringLiteral("node.springRotX"), QStringLiteral("UI_PROP_SPRING_ROT_X"),
-                               rotational, moment));
-    node.AddProperty(Stiffness(QStringLiteral("node.springRotY"), QStringLiteral("UI_PROP_SPRING_ROT_Y"),
-                               rotational, moment));
-    node.AddProperty(Stiffness(QStringLiteral("node.springRotZ"), QStringLiteral("UI_PROP_SPRING_ROT_Z"),
-                               rotational, moment));
-    AddDisplayProperties(node, QColor(0x1f, 0x6f, 0xeb));
+    ObjectType node(ObjectKind::Node, c_node);
+    AddNumberAndName<Node>(node);
+    node.AddProperty(Coordinate(QStringLiteral("node.x"), QStringLiteral("UI_PROP_X"), &Node::x));
+    node.AddProperty(Coordinate(QStringLiteral("node.y"), QStringLiteral("UI_PROP_Y"), &Node::y));
+    node.AddProperty(Coordinate(QStringLiteral("node.z"), QStringLiteral("UI_PROP_Z"), &Node::z));
     node.AddAction({ QStringLiteral("node.placeOnGround"),
-                     QStringLiteral("UI_PROPERTIES_ACTION_PLACE_ON_GROUND"), [](StructuralObject& object) {
-                         return object.SetValue(QStringLiteral("node.z"), 0.0)
-                             == StructuralObject::SetResult::Changed;
-                     } });
+                     QStringLiteral("UI_PROPERTIES_ACTION_PLACE_ON_GROUND"),
+                     [](Structure& structure, std::size_t index) { structure.Nodes().At(index).z = 0.0; },
+                     QStringLiteral("node.z") });
     return node;
 }
 
 ObjectType StructuralObjectTypes::CreateMember()
 {
-    ObjectType member(c_member, QStringLiteral("UI_OBJECT_MEMBER"), QStringLiteral("UI_OBJECT_MEMBERS"));
-    AddGeneralProperties(member);
+    ObjectType member(ObjectKind::Member, c_member);
+    AddNumberAndName<Member>(member);
     const QStringList nodes { QStringLiteral("UI_PROPERTIES_SUB_NODES") };
-    member.AddProperty(PropertyDefinition(QStringLiteral("member.startNode"), PropertyType::Integer,
-                                          QStringLiteral("UI_PROP_START_NODE"))
-                           .WithCategory(c_geometry, nodes)
-                           .WithRange(1, std::nullopt)
-                           .WithDefault(Integer(1))
-                           .HiddenWhenValuesDiffer());
-    member.AddProperty(PropertyDefinition(QStringLiteral("member.endNode"), PropertyType::Integer,
-                                          QStringLiteral("UI_PROP_END_NODE"))
-                           .WithCategory(c_geometry, nodes)
-                           .WithRange(1, std::nullopt)
-                           .WithDefault(Integer(2))
-                           .HiddenWhenValuesDiffer());
-    member.AddProperty(PropertyDefinition(QStringLiteral("member.rotation"), PropertyType::Real,
-                                          QStringLiteral("UI_PROP_ROTATION"))
-                           .WithCategory(c_geometry)
-                           .WithUnits(QStringLiteral("°"), 1)
-                           .WithRange(-180.0, 180.0));
-    member.AddProperty(PropertyDefinition(QStringLiteral("member.sectionShape"), PropertyType::List,
-                                          QStringLiteral("UI_PROP_SECTION_SHAPE"))
-                           .WithCategory(c_crossSection)
-                           .WithChoices({ QStringLiteral("UI_CHOICE_SECTION_I"),
-                                          QStringLiteral("UI_CHOICE_SECTION_RECTANGLE"),
-                                          QStringLiteral("UI_CHOICE_SECTION_CIRCLE") })
-                           .WithIllustration(c_crossSectionIllustration));
-    const QStringList dimensions { QStringLiteral("UI_PROPERTIES_SUB_DIMENSIONS") };
-    const QStringList plates { QStringLiteral("UI_PROPERTIES_SUB_DIMENSIONS"),
-                               QStringLiteral("UI_PROPERTIES_SUB_PLATES") };
-    member.AddProperty(SectionDimension(QStringLiteral("member.height"), QStringLiteral("UI_PROP_HEIGHT"),
-                                        dimensions, 300.0));
+    member.AddProperty(BindField(
+        Reference(QStringLiteral("member.startNode"), QStringLiteral("UI_PROP_START_NODE"), c_geometry)
+            .WithCategory(c_geometry, nodes)
+            .HiddenWhenValuesDiffer()
+            .AsRequired(),
+        &Member::startNode));
     member.AddProperty(
-        SectionDimension(QStringLiteral("member.width"), QStringLiteral("UI_PROP_WIDTH"), dimensions, 150.0));
-    member.AddProperty(SectionDimension(QStringLiteral("member.flangeThickness"),
-                                        QStringLiteral("UI_PROP_FLANGE_THICKNESS"), plates, 10.7)
-                           .WithRichTextName()
-                           .AsAdvanced());
-    member.AddProperty(SectionDimension(QStringLiteral("member.webThickness"),
-                                        QStringLiteral("UI_PROP_WEB_THICKNESS"), plates, 7.1)
-                           .WithRichTextName()
-                           .AsAdvanced());
-    member.AddProperty(PropertyDefinition(QStringLiteral("member.material"), PropertyType::List,
-                                          QStringLiteral("UI_PROP_MATERIAL"))
-                           .WithCategory(c_material)
-                           .WithChoices({ QStringLiteral("UI_CHOICE_MATERIAL_S235"),
-                                          QStringLiteral("UI_CHOICE_MATERIAL_S355"),
-                                          QStringLiteral("UI_CHOICE_MATERIAL_C30"),
-                                          QStringLiteral("UI_CHOICE_MATERIAL_GL24H") }));
-    member.AddProperty(PropertyDefinition(QStringLiteral("member.yieldStrength"), PropertyType::Real,
-                                          QStringLiteral("UI_PROP_YIELD_STRENGTH"))
-                           .WithCategory(c_material)
-                           .WithUnits(QStringLiteral("MPa"), 0)
-                           .WithRange(0.0, 2000.0)
-                           .WithDefault(235.0)
-                           .WithRichTextName()
-                           .WithParameter(QStringLiteral("UI_CHOICE_MATERIAL_S235"), 235.0)
-                           .WithParameter(QStringLiteral("UI_CHOICE_MATERIAL_S275"), 275.0)
-                           .WithParameter(QStringLiteral("UI_CHOICE_MATERIAL_S355"), 355.0)
-                           .WithParameter(QStringLiteral("UI_CHOICE_MATERIAL_S460"), 460.0));
-    member.AddProperty(PropertyDefinition(QStringLiteral("member.elasticModulus"), PropertyType::Real,
-                                          QStringLiteral("UI_PROP_ELASTIC_MODULUS"))
-                           .WithCategory(c_material)
-                           .WithUnits(QStringLiteral("GPa"), 1)
-                           .WithRange(0.1, 1000.0)
-                           .WithDefault(210.0)
-                           .AsAdvanced());
-    member.AddProperty(PropertyDefinition(QStringLiteral("member.hingeAtStart"), PropertyType::Bool,
-                                          QStringLiteral("UI_PROP_HINGE_START"))
-                           .WithCategory(c_releases)
-                           .AsAdvanced());
-    member.AddProperty(PropertyDefinition(QStringLiteral("member.hingeAtEnd"), PropertyType::Bool,
-                                          QStringLiteral("UI_PROP_HINGE_END"))
-                           .WithCategory(c_releases)
-                           .AsAdvanced());
-    AddDisplayProperties(member, QColor(0x2b, 0x34, 0x45));
+        BindField(Reference(QStringLiteral("member.endNode"), QStringLiteral("UI_PROP_END_NODE"), c_geometry)
+                      .WithCategory(c_geometry, nodes)
+                      .HiddenWhenValuesDiffer()
+                      .AsRequired(),
+                  &Member::endNode));
+    member.AddProperty(BindComputed<Member>(
+        Quantity(QStringLiteral("member.length"), QStringLiteral("UI_PROP_LENGTH"), c_geometry,
+                 QStringLiteral("m"), 3),
+        [](const Structure& structure, const Member& record) { return structure.MemberLength(record); }));
+    member.AddProperty(
+        BindField(Quantity(QStringLiteral("member.rotation"), QStringLiteral("UI_PROP_ROTATION"), c_geometry,
+                           QStringLiteral("°"), 1)
+                      .WithRange(-360.0, 360.0)
+                      .WithDefault(0.0)
+                      .AsAdvanced(),
+                  &Member::rotation));
+    member.AddProperty(
+        BindField(Reference(QStringLiteral("member.section"), QStringLiteral("UI_PROP_CROSS_SECTION"),
+                            Categories::c_crossSection),
+                  &Member::section));
+    member.AddProperty(BindField(Reference(QStringLiteral("member.material"),
+                                           QStringLiteral("UI_PROP_MATERIAL"), Categories::c_material),
+                                 &Member::material));
+    member.AddProperty(Release(QStringLiteral("member.startRelease"), QStringLiteral("UI_PROP_RELEASE_START"),
+                               &Member::startReleases));
+    member.AddProperty(Release(QStringLiteral("member.endRelease"), QStringLiteral("UI_PROP_RELEASE_END"),
+                               &Member::endReleases));
     member.AddAction({ QStringLiteral("member.reverse"),
-                       QStringLiteral("UI_PROPERTIES_ACTION_REVERSE_MEMBER"), [](StructuralObject& object) {
-                           const QString start = QStringLiteral("member.startNode");
-                           const QString end = QStringLiteral("member.endNode");
-                           const PropertyValue startNode = object.Value(start);
-                           const PropertyValue endNode = object.Value(end);
-                           if (startNode == endNode)
-                               return false;
-                           object.SetValue(start, endNode);
-                           object.SetValue(end, startNode);
-                           return true;
-                       } });
+                       QStringLiteral("UI_PROPERTIES_ACTION_REVERSE_MEMBER"),
+                       [](Structure& structure, std::size_t index) {
+                           Member& record = structure.Members().At(index);
+                           std::swap(record.startNode, record.endNode);
+                           std::swap(record.startReleases, record.endReleases);
+                       },
+                       QStringLiteral("member.startNode") });
     return member;
 }
 
-ObjectType StructuralObjectTypes::CreateLoadCase()
+ObjectType StructuralObjectTypes::CreateSupport()
 {
-    ObjectType loadCase(c_loadCase, QStringLiteral("UI_OBJECT_LOAD_CASE"),
-                        QStringLiteral("UI_OBJECT_LOAD_CASES"));
-    AddGeneralProperties(loadCase);
-    loadCase.AddProperty(PropertyDefinition(QStringLiteral("loadCase.actionCategory"), PropertyType::List,
-                                            QStringLiteral("UI_PROP_ACTION_CATEGORY"))
-                             .WithCategory(c_analysis)
-                             .WithChoices({ QStringLiteral("UI_CHOICE_ACTION_PERMANENT"),
-                                            QStringLiteral("UI_CHOICE_ACTION_IMPOSED"),
-                                            QStringLiteral("UI_CHOICE_ACTION_SNOW"),
-                                            QStringLiteral("UI_CHOICE_ACTION_WIND") }));
-    loadCase.AddProperty(PropertyDefinition(QStringLiteral("loadCase.active"), PropertyType::Bool,
-                                            QStringLiteral("UI_PROP_ACTIVE"))
-                             .WithCategory(c_analysis)
-                             .WithDefault(true));
-    loadCase.AddProperty(PropertyDefinition(QStringLiteral("loadCase.partialFactor"), PropertyType::Real,
-                                            QStringLiteral("UI_PROP_PARTIAL_FACTOR"))
-                             .WithCategory(c_analysis)
-                             .WithUnits(QString(), 2)
-                             .WithRange(0.0, 3.0)
-                             .WithDefault(1.35)
-                             .WithRichTextName()
-                             .WithParameter(QStringLiteral("UI_PARAMETER_FAVOURABLE"), 1.0)
-                             .WithParameter(QStringLiteral("UI_PARAMETER_PERMANENT"), 1.35)
-                             .WithParameter(QStringLiteral("UI_PARAMETER_VARIABLE"), 1.5));
-    const QStringList selfWeight { QStringLiteral("UI_PROPERTIES_SUB_SELF_WEIGHT") };
-    loadCase.AddProperty(PropertyDefinition(QStringLiteral("loadCase.selfWeight"), PropertyType::Bool,
-                                            QStringLiteral("UI_PROP_SELF_WEIGHT"))
-                             .WithCategory(c_analysis, selfWeight));
-    const auto factor = [&selfWeight](const QString& key, const QString& nameId, double defaultValue) {
-        return PropertyDefinition(key, PropertyType::Real, nameId)
-            .WithCategory(c_analysis, selfWeight)
-            .WithUnits(QString(), 2)
-            .WithRange(-10.0, 10.0)
-            .WithDefault(defaultValue)
-            .AsAdvanced();
-    };
-    loadCase.AddProperty(factor(QStringLiteral("loadCase.factorX"), QStringLiteral("UI_PROP_FACTOR_X"), 0.0));
-    loadCase.AddProperty(factor(QStringLiteral("loadCase.factorY"), QStringLiteral("UI_PROP_FACTOR_Y"), 0.0));
-    loadCase.AddProperty(
-        factor(QStringLiteral("loadCase.factorZ"), QStringLiteral("UI_PROP_FACTOR_Z"), -1.0));
-    AddDisplayProperties(loadCase, QColor(0xb7, 0x79, 0x1f));
-    return loadCase;
-}
-
-void StructuralObjectTypes::RegisterAll(StructuralModel& model)
-{
-    model.RegisterType(CreateNode());
-    model.RegisterType(CreateMember());
-    model.RegisterType(CreateLoadCase());
+    ObjectType support(ObjectKind::Support, c_support);
+    AddNumberAndName<Support>(support);
+    support.AddProperty(BindField(
+        Reference(QStringLiteral("support.node"), QStringLiteral("UI_PROP_NODE"), Categories::c_support)
+            .AsRequired(),
+        &Support::node));
+    support.AddProperty(
+        PropertyDefinition(QStringLiteral("support.type"), PropertyType::List,
+                           QStringLiteral("UI_PROP_SUPPORT_TYPE"))
+            .WithCategory(Categories::c_support)
+            .WithChoices(
+                { QStringLiteral("UI_CHOICE_SUPPORT_FIXED"), QStringLiteral("UI_CHOICE_SUPPORT_PINNED"),
+                  QStringLiteral("UI_CHOICE_SUPPORT_ROLLER"), QStringLiteral("UI_CHOICE_SUPPORT_CUSTOM") })
+            .WithDefault(std::int32_t { 0 })
+            .WithIllustration(QStringLiteral("Illustrations/SupportTypes.qml"))
+            .Bind(
+                [](const Structure& structure, std::size_t index) {
+                    return PropertyValue(ChoiceOf(c_supportChoices, structure.Supports().At(index).fixed));
+                },
+                [](Structure& structure, std::size_t index, const PropertyValue& value) {
+                    // "Custom" names the fixities as they are: choosing it changes nothing.
+                    const auto choice = std::size_t(std::get<std::int32_t>(value));
+                    if (choice < c_supportChoices.size())
+                        structure.Supports().At(index).fixed = c_supportChoices[choice];
+                    return ModelMessage();
+                }));
+    const char* fixities[] = { "UI_PROP_FIXED_UX", "UI_PROP_FIXED_UY", "UI_PROP_FIXED_UZ",
+                               "UI_PROP_FIXED_RX", "UI_PROP_FIXED_RY", "UI_PROP_FIXED_RZ" };
+    for (int dof = 0; dof < 6; ++dof)
+        support.AddProperty(Fixity(dof, QString::fromLatin1(fixities[dof])));
+    const char* springs[] = { "UI_PROP_SPRING_X",     "UI_PROP_SPRING_Y",     "UI_PROP_SPRING_Z",
+                              "UI_PROP_SPRING_ROT_X", "UI_PROP_SPRING_ROT_Y", "UI_PROP_SPRING_ROT_Z" };
+    for (int dof = 0; dof < 6; ++dof)
+        support.AddProperty(Spring(dof, QString::fromLatin1(springs[dof]),
+                                   dof < 3 ? QStringLiteral("kN/m") : QStringLiteral("kNm/rad")));
+    return support;
 }
 
 } // namespace Orvo::Kernel::Framework

@@ -5,6 +5,7 @@
 #include "framework/INeedEventbus.h"
 
 #include <QObject>
+#include <QtQml/qqmlregistration.h>
 
 namespace Orvo::UI::Events {
 class CommandExecuted;
@@ -17,6 +18,7 @@ namespace Orvo::UI::QtExtensions {
 class HOSTKIT_EXPORT CommandExecutionMonitor : public QObject, public Kernel::Framework::INeedEventbus
 {
     Q_OBJECT
+    QML_NAMED_ELEMENT(CommandExecutionMonitor)
     Q_PROPERTY(int executedCount READ executedCount NOTIFY commandExecuted)
 
 public:

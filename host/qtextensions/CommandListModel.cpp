@@ -52,7 +52,7 @@ QVariant CommandListModel::data(const QModelIndex& index, int role) const
     case EnabledRole:
         return command.enabled;
     case IconRole:
-        return File::createQmlFilePathFromApplicationPath(Kernel::Directories::ToPath(command.icon));
+        return File::createQmlFilePathFromApplicationPath(command.icon);
     default:
         return {};
     }
@@ -75,6 +75,28 @@ bool CommandListModel::setShortcut(const QString& uuid, const QString& shortcut)
         return false;
     // The repository announces the change, and the row follows the announcement.
     return m_repository->SetShortcut(uuid.toStdWString(), shortcut.trimmed().toStdWString());
+}
+
+bool CommandListModel::setCommandEnabled(const QString& uuid, bool enabled)
+{
+    return m_repository && m_repository->SetCommandEnabled(uuid.toStdWString(), enabled);
+}
+
+QString CommandListModel::shortcutOwner(const QString& shortcut, const QString& exceptUuid) const
+{
+    if (!m_repository)
+        return {};
+    for (const std::wstring& uuid :
+         m_repository->FindCommandsWithShortcut(shortcut.trimmed().toStdWString())) {
+        if (uuid != exceptUuid.toStdWString())
+            return QString::fromStdWString(uuid);
+    }
+    return {};
+}
+
+bool CommandListModel::moveShortcut(const QString& uuid, const QString& shortcut)
+{
+    return m_repository && m_repository->MoveShortcut(uuid.toStdWString(), shortcut.trimmed().toStdWString());
 }
 
 QString CommandListModel::commandName(const QString& uuid) const

@@ -8,6 +8,7 @@
 #include "framework/INeedServiceCatalog.h"
 
 #include <QAbstractListModel>
+#include <QtQml/qqmlregistration.h>
 #include <vector>
 
 namespace Orvo::UI::QtExtensions {
@@ -22,6 +23,7 @@ class HOSTKIT_EXPORT CommandListModel : public QAbstractListModel,
                                         public Kernel::Framework::INeedCommandRepository
 {
     Q_OBJECT
+    QML_NAMED_ELEMENT(CommandListModel)
     Q_PROPERTY(int count READ count NOTIFY countChanged)
 
 public:
@@ -47,6 +49,13 @@ public:
     // False, changing nothing, for an unknown command or a text that is no key sequence;
     // an empty text removes the binding.
     Q_INVOKABLE bool setShortcut(const QString& uuid, const QString& shortcut);
+    // False, changing nothing, for an unknown command.
+    Q_INVOKABLE bool setCommandEnabled(const QString& uuid, bool enabled);
+    // The first command other than exceptUuid bound to shortcut, or an empty text: the command
+    // that would lose the shortcut if it were given to exceptUuid.
+    Q_INVOKABLE QString shortcutOwner(const QString& shortcut, const QString& exceptUuid) const;
+    // Gives the command the shortcut and takes it from every other command that had it.
+    Q_INVOKABLE bool moveShortcut(const QString& uuid, const QString& shortcut);
     // The command's name in the user's language; the identifier itself for an unknown command.
     Q_INVOKABLE QString commandName(const QString& uuid) const;
 

@@ -31,7 +31,7 @@ QString ComponentConfigurationStore::LoadDefault(const QString& key) const
 {
     if (m_defaultsDirectory.empty() || key.isEmpty())
         return {};
-    const QDir directory(QString::fromStdWString(m_defaultsDirectory.wstring()));
+    const QDir directory(Kernel::Directories::ToQString(m_defaultsDirectory));
     // Compared by name rather than through a name filter, so a key is never read as a wildcard.
     const QFileInfoList files = directory.entryInfoList(QDir::Files, QDir::Name);
     const auto match = std::find_if(files.begin(), files.end(),

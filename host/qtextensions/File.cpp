@@ -24,6 +24,11 @@ QString createQmlFilePathFromApplicationPath(const std::filesystem::path& path)
         Kernel::Directories::GetDirectory(Kernel::Directories::DirectoryType::ApplicationDirectory) / path);
 }
 
+QString createQmlFilePathFromApplicationPath(const std::wstring& path)
+{
+    return createQmlFilePathFromApplicationPath(Kernel::Directories::ToPath(path));
+}
+
 std::wstring getRelativePathFromQmlPath(const QString& qmlPath)
 {
     const QUrl url(qmlPath);

@@ -2,6 +2,7 @@
 
 #include "HostKitExport.h"
 
+#include <QVariant>
 #include <QtQuick/private/qquickwindowmodule_p.h>
 
 namespace Orvo::UI::QtExtensions {
@@ -14,19 +15,54 @@ namespace Orvo::UI::QtExtensions {
 // and the release. The window therefore reports every pointer move and button release it
 // receives, and with grabsPointer set it takes the pointer while it is shown, so those events
 // come to it rather than to the window where the gesture began.
+//
+// A transparent window needs a compositing window manager to show what lies beneath it; without
+// one (plain X servers, many remote desktops) its transparent pixels come out black. The window
+// then falls back to a mask: only the polygons in maskPolygons are shown, so a popup that draws
+// rings shows only its rings.
 class HOSTKIT_EXPORT FramelessWindow : public QQuickWindowQmlImpl
 {
     Q_OBJECT
     Q_PROPERTY(bool grabsPointer READ grabsPointer WRITE setGrabsPointer NOTIFY grabsPointerChanged)
+    // Whether the window system blends the window's transparent pixels with what lies beneath.
+    Q_PROPERTY(bool translucent READ isTranslucent NOTIFY translucentChanged)
+    Q_PROPERTY(MaskPolicy maskPolicy READ maskPolicy WRITE setMaskPolicy NOTIFY maskPolicyChanged)
+    // The parts of the window that are drawn: a list of polygons, each a list of points in window
+    // coordinates. Empty: the whole window.
+    Q_PROPERTY(QVariantList maskPolygons READ maskPolygons WRITE setMaskPolygons NOTIFY maskPolygonsChanged)
+    // Whether the mask is applied now.
+    Q_PROPERTY(bool masked READ isMasked NOTIFY maskedChanged)
 
 public:
+    enum MaskPolicy
+    {
+        MaskWhenOpaque, // only where transparency would come out black
+        MaskAlways,
+        MaskNever,
+    };
+    Q_ENUM(MaskPolicy)
+
     explicit FramelessWindow(QWindow* parent = nullptr);
 
     bool grabsPointer() const;
     void setGrabsPointer(bool grabsPointer);
+    bool isTranslucent() const { return m_translucent; }
+    MaskPolicy maskPolicy() const { return m_maskPolicy; }
+    void setMaskPolicy(MaskPolicy policy);
+    QVariantList maskPolygons() const { return m_maskPolygons; }
+    void setMaskPolygons(const QVariantList& polygons);
+    bool isMasked() const { return m_masked; }
+
+    // Whether the window shows anything at position (window coordinates): inside its mask, or
+    // anywhere while it has none.
+    Q_INVOKABLE bool isShownAt(const QPointF& position) const;
 
 signals:
     void grabsPointerChanged();
+    void translucentChanged();
+    void maskPolicyChanged();
+    void maskPolygonsChanged();
+    void maskedChanged();
     // position in window coordinates.
     void pointerMoved(QPointF position);
     void pointerReleased(QPointF position, int button);
@@ -34,12 +70,19 @@ signals:
 protected:
     bool event(QEvent* event) override;
     void exposeEvent(QExposeEvent* event) override;
+    void showEvent(QShowEvent* event) override;
     void hideEvent(QHideEvent* event) override;
 
 private:
     void UpdatePointerGrab();
+    void UpdateTranslucency();
+    void UpdateMask();
 
     bool m_grabsPointer = false;
+    bool m_translucent = true;
+    MaskPolicy m_maskPolicy = MaskWhenOpaque;
+    QVariantList m_maskPolygons;
+    bool m_masked = false;
 };
 
 } // namespace Orvo::UI::QtExtensions

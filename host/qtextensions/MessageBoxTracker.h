@@ -3,6 +3,7 @@
 #include "HostKitExport.h"
 
 #include <QObject>
+#include <QtQml/qqmlregistration.h>
 #include <memory>
 
 namespace Orvo::UI::QtExtensions {
@@ -15,6 +16,7 @@ class MessageBoxService;
 class HOSTKIT_EXPORT MessageBoxTracker : public QObject
 {
     Q_OBJECT
+    QML_NAMED_ELEMENT(MessageBoxTracker)
     Q_PROPERTY(bool shown READ shown WRITE setShown NOTIFY shownChanged)
 
 public:

@@ -23,7 +23,8 @@ public:
     explicit UIComponent(QQuickItem* parent = nullptr);
     ~UIComponent() override;
 
-    virtual void loadConfiguration(const QString& userConfiguration);
+    // Invokable, so that a document can also hand a panel a configuration of its own choosing.
+    Q_INVOKABLE virtual void loadConfiguration(const QString& userConfiguration);
     virtual QString saveConfiguration();
     virtual bool isPersistent() const;
     // Where and how large a floating panel opens within the available area.

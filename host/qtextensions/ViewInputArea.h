@@ -7,6 +7,7 @@
 #include <QPointF>
 #include <QQuickItem>
 #include <QTimer>
+#include <QtQml/qqmlregistration.h>
 
 namespace Orvo::UI::QtExtensions {
 
@@ -17,6 +18,7 @@ namespace Orvo::UI::QtExtensions {
 class HOSTKIT_EXPORT ViewInputArea : public QQuickItem, public Kernel::Framework::INeedEventbus
 {
     Q_OBJECT
+    QML_NAMED_ELEMENT(ViewInputArea)
     Q_PROPERTY(bool holding READ holding NOTIFY holdingChanged)
 
 public:

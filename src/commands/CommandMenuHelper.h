@@ -8,6 +8,7 @@
 
 #include <QObject>
 #include <QString>
+#include <QtQml/qqmlregistration.h>
 #include <optional>
 
 namespace Orvo::UI::UIComponents {
@@ -20,6 +21,7 @@ class CommandMenuHelper : public QObject,
                           public Kernel::Framework::INeedUICommandProcessor
 {
     Q_OBJECT
+    QML_NAMED_ELEMENT(CommandMenuHelper)
     // Tells the host which component ran a command (for usage statistics).
     Q_PROPERTY(QString componentTrackingID READ componentTrackingID WRITE setComponentTrackingID NOTIFY
                    componentTrackingIDChanged)

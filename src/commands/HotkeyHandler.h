@@ -4,6 +4,7 @@
 
 #include <QPointer>
 #include <QQmlContext>
+#include <QtQml/qqmlregistration.h>
 
 namespace Orvo::UI::UIComponents {
 
@@ -12,9 +13,11 @@ class HotkeyHandlerModel;
 // The native half of the hotkey handler panel. When the host loads it, it creates the model
 // of the application's shortcuts and publishes it in the shell's QML context as
 // "hotkeyHandlerModel", where the panel's document (and any other) finds it.
-class HotkeyHandler : public QtExtensions::UIComponent
+// The base is named in full: the QML type description finds base classes by their full name.
+class HotkeyHandler : public Orvo::UI::QtExtensions::UIComponent
 {
     Q_OBJECT
+    QML_NAMED_ELEMENT(HotkeyHandler_Cpp)
 
 public:
     explicit HotkeyHandler(QQuickItem* parent = nullptr);

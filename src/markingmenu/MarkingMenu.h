@@ -6,6 +6,7 @@
 #include "framework/INeedEventbus.h"
 #include "qtextensions/UIComponent.h"
 
+#include <QtQml/qqmlregistration.h>
 #include <memory>
 
 namespace Orvo::Kernel::Framework {
@@ -21,9 +22,11 @@ namespace Orvo::UI::UIComponents {
 // The native half of the radial marking menu. The host asks for the menu on its event bus; the
 // menu opens on the second idle turn after the request, so a quick click (the release arrives
 // before then) never opens it. QML draws the menu and runs the chosen command.
-class MarkingMenu : public QtExtensions::UIComponent, public Kernel::Framework::INeedEventbus
+// The base is named in full: the QML type description finds base classes by their full name.
+class MarkingMenu : public Orvo::UI::QtExtensions::UIComponent, public Kernel::Framework::INeedEventbus
 {
     Q_OBJECT
+    QML_NAMED_ELEMENT(MarkingMenu_Cpp)
     Q_PROPERTY(CommandMenuHelper* commandHelper READ commandHelper NOTIFY commandHelperChanged)
     // Replaced without a signal by loadConfiguration: QML reads it when the menu opens.
     Q_PROPERTY(MarkingMenuConfig* mmConfig READ mmConfig NOTIFY mmConfigChanged)

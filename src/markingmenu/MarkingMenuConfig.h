@@ -3,6 +3,7 @@
 #include "MarkingMenuSectionConfig.h"
 
 #include <QObject>
+#include <QtQml/qqmlregistration.h>
 
 namespace Orvo::UI::UIComponents {
 
@@ -11,6 +12,7 @@ namespace Orvo::UI::UIComponents {
 class MarkingMenuConfig : public QObject
 {
     Q_OBJECT
+    QML_NAMED_ELEMENT(MarkingMenuConfig)
     Q_PROPERTY(MarkingMenuSectionConfig* topSection READ topSection NOTIFY topSectionChanged)
     Q_PROPERTY(MarkingMenuSectionConfig* rightSection READ rightSection NOTIFY rightSectionChanged)
     Q_PROPERTY(MarkingMenuSectionConfig* bottomSection READ bottomSection NOTIFY bottomSectionChanged)

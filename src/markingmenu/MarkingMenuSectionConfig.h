@@ -4,6 +4,7 @@
 #include <QObject>
 #include <QString>
 #include <QStringList>
+#include <QtQml/qqmlregistration.h>
 
 namespace Orvo::UI::UIComponents {
 
@@ -13,6 +14,7 @@ namespace Orvo::UI::UIComponents {
 class MarkingMenuSectionConfig : public QObject
 {
     Q_OBJECT
+    QML_NAMED_ELEMENT(MarkingMenuSectionConfig)
     Q_PROPERTY(bool sectionVisible READ sectionVisible NOTIFY sectionVisibleChanged)
     Q_PROPERTY(QString icon READ icon NOTIFY iconChanged)
     Q_PROPERTY(QString label READ label NOTIFY labelChanged)

@@ -2,6 +2,7 @@
 
 #include <QObject>
 #include <QString>
+#include <QtQml/qqmlregistration.h>
 
 namespace Orvo::UI::UIComponents {
 
@@ -9,6 +10,8 @@ namespace Orvo::UI::UIComponents {
 class StringsQtComponents : public QObject
 {
     Q_OBJECT
+    QML_NAMED_ELEMENT(Strings)
+    QML_SINGLETON
 
 public:
     explicit StringsQtComponents(QObject* parent = nullptr);

@@ -23,9 +23,13 @@
 #include "tables/TableContentModel.h"
 #include "tables/TableSelectionFilterModel.h"
 #include "tables/TableSelectionModel.h"
+#include "tables/TableTabsModel.h"
+#include "tables/TableWorkstationsModel.h"
 #include "valueentry/InlineCalculator.h"
 #include "valueentry/IntegerValidator.h"
 #include "valueentry/RealValidator.h"
+#include "viewport/GraphicView.h"
+#include "viewport/Viewport.h"
 
 #include <QQmlEngine>
 
@@ -59,6 +63,8 @@ void RegisterQtComponentsTypes(const char* uri)
     qmlRegisterType<RealValidator>(uri, major, minor, "RealValidator");
     qmlRegisterType<InlineCalculator>(uri, major, minor, "InlineCalculator");
     qmlRegisterType<IllustrationData>(uri, major, minor, "IllustrationData");
+    qmlRegisterType<TableWorkstationsModel>(uri, major, minor, "TableWorkstationsModel");
+    qmlRegisterType<TableTabsModel>(uri, major, minor, "TableTabsModel");
     qmlRegisterType<TableColumnsModel>(uri, major, minor, "TableColumnsModel");
     qmlRegisterType<TableContentModel>(uri, major, minor, "TableContentModel");
     qmlRegisterType<MultiEditAction>(uri, major, minor, "MultiEditAction");
@@ -72,6 +78,8 @@ void RegisterQtComponentsTypes(const char* uri)
     qmlRegisterType<MarkingMenuConfig>(uri, major, minor, "MarkingMenuConfig");
     qmlRegisterType<MarkingMenu>(uri, major, minor, "MarkingMenu_Cpp");
     qmlRegisterType<QtExtensions::FramelessWindow>(uri, major, minor, "FramelessWindow");
+    qmlRegisterType<GraphicView>(uri, major, minor, "GraphicView_Cpp");
+    qmlRegisterType<Viewport>(uri, major, minor, "Viewport");
     qmlRegisterSingletonType<StringsQtComponents>(uri, major, minor, "Strings", CreateStrings);
 }
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QAbstractListModel>
+#include <QtQml/qqmlregistration.h>
 #include <vector>
 
 namespace Orvo::UI::UIComponents {
@@ -9,6 +10,7 @@ namespace Orvo::UI::UIComponents {
 class ActionsModel : public QAbstractListModel
 {
     Q_OBJECT
+    QML_NAMED_ELEMENT(ActionsModel)
     Q_PROPERTY(int count READ rowCount NOTIFY countChanged)
 
 public:

@@ -2,14 +2,13 @@
 
 #include "PropertiesLogging.h"
 #include "plugin/QtComponentsText.h"
-#include "properties/StructuralObject.h"
+#include "properties/StructuralModel.h"
 
 #include <algorithm>
 
 namespace Orvo::UI::UIComponents {
 
 using Kernel::Framework::ObjectId;
-using Kernel::Framework::StructuralObject;
 
 EntityModel::EntityModel(QObject* parent)
     : QAbstractListModel(parent)
@@ -67,28 +66,34 @@ void EntityModel::setCurrentIndex(int index)
     emit currentObjectsChanged();
 }
 
-void EntityModel::SetObjects(const std::vector<const StructuralObject*>& objects)
+void EntityModel::SetObjects(const Kernel::Framework::StructuralModel* model,
+                             const std::vector<ObjectId>& ids)
 {
+    std::vector<std::pair<ObjectId, const Kernel::Framework::ObjectType*>> objects;
+    for (ObjectId id : ids) {
+        if (const auto* type = model ? model->TypeOf(id) : nullptr)
+            objects.push_back({ id, type });
+    }
     const QString currentType
         = m_currentIndex >= 0 ? m_entities[static_cast<std::size_t>(m_currentIndex)].typeKey : QString();
     std::vector<Entity> entities;
     std::vector<const Kernel::Framework::ObjectType*> types;
-    for (const StructuralObject* object : objects) {
-        auto type = std::find(types.begin(), types.end(), &object->Type());
+    for (const auto& [id, objectType] : objects) {
+        auto type = std::find(types.begin(), types.end(), objectType);
         if (type == types.end()) {
-            types.push_back(&object->Type());
-            entities.push_back({ object->Type().Key(), QString(), {} });
+            types.push_back(objectType);
+            entities.push_back({ objectType->Key(), QString(), {} });
             type = types.end() - 1;
         }
-        entities[static_cast<std::size_t>(type - types.begin())].objects.push_back(object->Id());
+        entities[static_cast<std::size_t>(type - types.begin())].objects.push_back(id);
     }
     for (std::size_t i = 0; i < entities.size(); ++i)
         entities[i].name
             = GetText(entities[i].objects.size() == 1 ? types[i]->NameId() : types[i]->PluralNameId());
     if (entities.size() > 1) {
         Entity all { QString(), GetText(QStringLiteral("UI_PROPERTIES_ENTITY_ALL")), {} };
-        for (const StructuralObject* object : objects)
-            all.objects.push_back(object->Id());
+        for (const auto& object : objects)
+            all.objects.push_back(object.first);
         entities.insert(entities.begin(), std::move(all));
     }
 

@@ -3,10 +3,11 @@
 #include "properties/PropertyValue.h"
 
 #include <QAbstractListModel>
+#include <QtQml/qqmlregistration.h>
 #include <vector>
 
 namespace Orvo::Kernel::Framework {
-class StructuralObject;
+class StructuralModel;
 }
 
 namespace Orvo::UI::UIComponents {
@@ -16,6 +17,7 @@ namespace Orvo::UI::UIComponents {
 class EntityModel : public QAbstractListModel
 {
     Q_OBJECT
+    QML_NAMED_ELEMENT(EntityModel)
     Q_PROPERTY(int currentIndex READ currentIndex WRITE setCurrentIndex NOTIFY currentIndexChanged)
     Q_PROPERTY(int count READ rowCount NOTIFY countChanged)
 
@@ -40,7 +42,9 @@ public:
 
     // Groups the objects by type, in the order the types first appear. The current entry stays
     // on the same kind of object when it is still there, else returns to the first entry.
-    void SetObjects(const std::vector<const Kernel::Framework::StructuralObject*>& objects);
+    // Objects the model does not hold are left out.
+    void SetObjects(const Kernel::Framework::StructuralModel* model,
+                    const std::vector<Kernel::Framework::ObjectId>& objects);
     std::vector<Kernel::Framework::ObjectId> CurrentObjects() const;
 
 signals:

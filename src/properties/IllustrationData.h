@@ -2,6 +2,7 @@
 
 #include <QObject>
 #include <QString>
+#include <QtQml/qqmlregistration.h>
 
 namespace Orvo::UI::UIComponents {
 
@@ -10,6 +11,7 @@ namespace Orvo::UI::UIComponents {
 class IllustrationData : public QObject
 {
     Q_OBJECT
+    QML_NAMED_ELEMENT(IllustrationData)
     Q_PROPERTY(QString source READ source NOTIFY sourceChanged)
     Q_PROPERTY(QString title READ title NOTIFY titleChanged)
     Q_PROPERTY(QString subject READ subject NOTIFY subjectChanged)

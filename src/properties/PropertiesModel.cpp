@@ -21,14 +21,6 @@ using Kernel::Framework::StructuralModel;
 
 namespace {
 
-int ParameterIndexOf(const PropertyValue& value, const PropertyDefinition& definition)
-{
-    const auto& parameters = definition.parameters;
-    auto it = std::find_if(parameters.begin(), parameters.end(),
-                           [&value](const auto& parameter) { return parameter.value == value; });
-    return it == parameters.end() ? -1 : static_cast<int>(it - parameters.begin());
-}
-
 QStringList Texts(const QStringList& ids)
 {
     QStringList texts;
@@ -275,18 +267,19 @@ void PropertiesModel::ShowObjects(std::shared_ptr<StructuralModel> model,
     m_types.clear();
     if (m_model) {
         for (ObjectId id : objects) {
-            const auto* object = m_model->FindObject(id);
-            if (!object) {
+            const auto* type = m_model->TypeOf(id);
+            if (!type) {
                 qCWarning(lcProperties).noquote()
                     << "Object" << id << "does not exist; its properties are not shown";
                 continue;
             }
             m_objects.push_back(id);
-            if (std::find(m_types.begin(), m_types.end(), object->SharedType()) == m_types.end())
-                m_types.push_back(object->SharedType());
+            if (std::find(m_types.begin(), m_types.end(), type) == m_types.end())
+                m_types.push_back(type);
         }
     }
-    m_items = PropertyRowsBuilder::Build(CommonDefinitions());
+    m_definitions = CommonDefinitions();
+    m_items = PropertyRowsBuilder::Build(m_definitions);
     for (PropertyItem& item : m_items) {
         item.collapsed = Contains(m_collapsedCategories, item.category);
         if (item.IsProperty())
@@ -297,6 +290,10 @@ void PropertiesModel::ShowObjects(std::shared_ptr<StructuralModel> model,
 
 void PropertiesModel::RefreshValues()
 {
+    if (CommonDefinitions() != m_definitions) {
+        ShowObjects(m_model, std::vector<ObjectId>(m_objects));
+        return;
+    }
     int firstChanged = -1;
     int lastChanged = -1;
     int categoryRow = -1;
@@ -335,11 +332,8 @@ bool PropertiesModel::SetValue(const QVariant& value, const QString& uuid, std::
     switch (action) {
     case NoAction:
         return WriteValue(item, value);
-    case ResetToDefaultAction: {
-        const auto result = m_model->ResetToDefault(m_objects, item.definition->key);
-        RefreshValues();
-        return result.rejected == 0;
-    }
+    case ResetToDefaultAction:
+        return Report(uuid, m_model->ResetToDefault(m_objects, item.definition->key));
     default:
         qCWarning(lcProperties).noquote()
             << "SetValue: unknown action" << action << "for" << item.definition->key;
@@ -357,9 +351,22 @@ bool PropertiesModel::WriteValue(const PropertyItem& item, const QVariant& value
             << " value for " << definition.key;
         return false;
     }
+    // The rows may be listed anew while the model announces the change (a property that no
+    // longer applies): nothing of the item is read after the write.
+    const QString uuid = definition.uuid;
     const auto result = m_model->SetValue(m_objects, definition.key, *converted);
+    return Report(uuid, result) && result.changed + result.unchanged > 0;
+}
+
+bool PropertiesModel::Report(const QString& uuid, const StructuralModel::EditResult& result)
+{
     RefreshValues();
-    return result.rejected == 0 && result.changed + result.unchanged > 0;
+    if (result.rejected > 0) {
+        emit valueRejected(uuid, m_model->Text(result.firstRejection));
+        return false;
+    }
+    emit valueAccepted(uuid);
+    return true;
 }
 
 bool PropertiesModel::WriteParameter(const PropertyItem& item, const QVariant& parameterIndex)
@@ -373,10 +380,10 @@ bool PropertiesModel::WriteParameter(const PropertyItem& item, const QVariant& p
     }
     if (definition.readOnly)
         return false;
-    const auto result = m_model->SetValue(m_objects, definition.key,
-                                          definition.parameters[static_cast<std::size_t>(index)].value);
-    RefreshValues();
-    return result.rejected == 0;
+    const QString uuid = definition.uuid;
+    return Report(uuid,
+                  m_model->SetValue(m_objects, definition.key,
+                                    definition.parameters[static_cast<std::size_t>(index)].value));
 }
 
 void PropertiesModel::SetCollapsedCategories(const std::vector<QString>& collapsedCategories)
@@ -407,17 +414,38 @@ const PropertyDefinition* PropertiesModel::FindDefinition(const QString& uuid) c
     return row < 0 ? nullptr : m_items[static_cast<std::size_t>(row)].definition;
 }
 
+std::vector<PropertiesModel::ShownObject> PropertiesModel::ResolveShown() const
+{
+    std::vector<ShownObject> shown;
+    if (!m_model)
+        return shown;
+    shown.reserve(m_objects.size());
+    for (ObjectId id : m_objects) {
+        const auto* type = m_model->TypeOf(id);
+        if (type)
+            shown.push_back({ type, *m_model->IndexOf(id) });
+    }
+    return shown;
+}
+
 std::vector<const PropertyDefinition*> PropertiesModel::CommonDefinitions() const
 {
     std::vector<const PropertyDefinition*> definitions;
     if (m_types.empty())
         return definitions;
+    const std::vector<ShownObject> shown = ResolveShown();
+    const auto& structure = m_model->Structure();
     for (const PropertyDefinition& definition : m_types.front()->Properties()) {
-        const bool shared = std::all_of(m_types.begin() + 1, m_types.end(), [&definition](const auto& type) {
+        const bool shared = std::all_of(m_types.begin() + 1, m_types.end(), [&definition](const auto* type) {
             const PropertyDefinition* other = type->FindProperty(definition.key);
             return other && other->type == definition.type;
         });
-        if (shared)
+        // A property shows when every object has it now.
+        const bool applies
+            = shared && std::all_of(shown.begin(), shown.end(), [&](const ShownObject& object) {
+                  return object.type->FindProperty(definition.key)->AppliesTo(structure, object.index);
+              });
+        if (applies)
             definitions.push_back(&definition);
     }
     return definitions;
@@ -428,23 +456,29 @@ PropertyItemValues PropertiesModel::CollectValues(const PropertyDefinition& defi
     PropertyItemValues values;
     values.first = definition.defaultValue;
     bool hasFirst = false;
-    for (ObjectId id : m_objects) {
-        const auto* object = m_model->FindObject(id);
-        if (!object || !object->HasProperty(definition.key))
+    const auto& structure = m_model->Structure();
+    // Kinds of object may share a property but not its definition: each reads its own.
+    const Kernel::Framework::ObjectType* lastType = nullptr;
+    const PropertyDefinition* own = nullptr;
+    for (const ShownObject& object : ResolveShown()) {
+        if (object.type != lastType) {
+            lastType = object.type;
+            own = object.type->FindProperty(definition.key);
+        }
+        if (!own || !own->AppliesTo(structure, object.index))
             continue;
-        const PropertyValue value = object->Value(definition.key);
+        const PropertyValue value = own->read(structure, object.index);
         if (!hasFirst) {
             values.first = value;
             hasFirst = true;
         }
         if (values.distinct.AddUnique(PropertyValueConversion::ToMixedValue(value, definition)))
-            values.parameterIndices.push_back(ParameterIndexOf(value, definition));
-        // Kinds of object may share a property but not its default. A read-only value is the
-        // host's, so it does not count as the user's change.
-        const PropertyValue& ownDefault = object->Type().FindProperty(definition.key)->defaultValue;
-        if (!definition.Check(value).isEmpty())
+            values.parameterIndices.push_back(definition.ParameterIndexOf(value));
+        // A read-only value is the host's, so it does not count as the user's change; a
+        // property without a default has nothing to go back to.
+        if (!own->Check(value).IsEmpty())
             values.highlight = PropertyItemValues::Error;
-        else if (!definition.readOnly && value != ownDefault
+        else if (!definition.readOnly && own->DiffersFromDefault(value)
                  && values.highlight == PropertyItemValues::Default)
             values.highlight = PropertyItemValues::DefaultModified;
     }

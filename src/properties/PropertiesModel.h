@@ -2,16 +2,13 @@
 
 #include "PropertyItem.h"
 #include "properties/PropertyValue.h"
+#include "properties/StructuralModel.h"
 
 #include <QAbstractListModel>
+#include <QtQml/qqmlregistration.h>
 #include <cstdint>
 #include <memory>
 #include <vector>
-
-namespace Orvo::Kernel::Framework {
-class ObjectType;
-class StructuralModel;
-} // namespace Orvo::Kernel::Framework
 
 namespace Orvo::UI::UIComponents {
 
@@ -21,6 +18,7 @@ namespace Orvo::UI::UIComponents {
 class PropertiesModel : public QAbstractListModel
 {
     Q_OBJECT
+    QML_NAMED_ELEMENT(PropertiesModel)
 
 public:
     // What SetValue does besides writing a value. Offered as action entries in mixedValuesRole,
@@ -44,7 +42,9 @@ public:
     // Lists the properties the objects have in common. Unknown ids are left out.
     void ShowObjects(std::shared_ptr<Kernel::Framework::StructuralModel> model,
                      const std::vector<Kernel::Framework::ObjectId>& objects);
-    // Reads the values of the shown objects again; rows whose values changed report it.
+    // Reads the values of the shown objects again; rows whose values changed report it. When the
+    // properties the objects have changed with them (another section shape), the rows are
+    // listed anew.
     void RefreshValues();
     // Writes value (or runs action) for the property uuid on every shown object.
     bool SetValue(const QVariant& value, const QString& uuid, std::int32_t action);
@@ -55,18 +55,31 @@ public:
     int FindRow(const QString& uuid) const;
     const Kernel::Framework::PropertyDefinition* FindDefinition(const QString& uuid) const;
 
+signals:
+    // The model refused an edit; reason is the user's text of why.
+    void valueRejected(const QString& uuid, const QString& reason);
+    void valueAccepted(const QString& uuid);
+
 private:
+    struct ShownObject
+    {
+        const Kernel::Framework::ObjectType* type;
+        std::size_t index;
+    };
+
     QVariant PropertyData(const PropertyItem& item, int row, int role) const;
     QVariant HeaderData(const PropertyItem& item, int row, int role) const;
     std::vector<const Kernel::Framework::PropertyDefinition*> CommonDefinitions() const;
     PropertyItemValues CollectValues(const Kernel::Framework::PropertyDefinition& definition) const;
+    std::vector<ShownObject> ResolveShown() const;
     bool WriteValue(const PropertyItem& item, const QVariant& value);
+    bool Report(const QString& uuid, const Kernel::Framework::StructuralModel::EditResult& result);
     bool WriteParameter(const PropertyItem& item, const QVariant& parameterIndex);
 
     std::shared_ptr<Kernel::Framework::StructuralModel> m_model;
     std::vector<Kernel::Framework::ObjectId> m_objects;
-    // Keeps the definitions the rows point to alive.
-    std::vector<std::shared_ptr<const Kernel::Framework::ObjectType>> m_types;
+    std::vector<const Kernel::Framework::ObjectType*> m_types;
+    std::vector<const Kernel::Framework::PropertyDefinition*> m_definitions;
     std::vector<PropertyItem> m_items;
     std::vector<QString> m_collapsedCategories;
 };

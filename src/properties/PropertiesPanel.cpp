@@ -18,7 +18,6 @@ using Kernel::Framework::ObjectValuesChangedEvent;
 using Kernel::Framework::SelectionChangedEvent;
 using Kernel::Framework::ServiceCatalog;
 using Kernel::Framework::StructuralModel;
-using Kernel::Framework::StructuralObject;
 
 PropertiesPanel::PropertiesPanel(QQuickItem* parent)
     : UIComponent(parent)
@@ -37,6 +36,9 @@ PropertiesPanel::PropertiesPanel(QQuickItem* parent)
         emit inBasicModeChanged();
     });
     connect(m_entities, &EntityModel::currentObjectsChanged, this, &PropertiesPanel::ShowCurrentEntity);
+    connect(m_properties, &PropertiesModel::valueRejected, this,
+            [this](const QString&, const QString& reason) { SetMessage(reason); });
+    connect(m_properties, &PropertiesModel::valueAccepted, this, [this]() { SetMessage({}); });
     // The user's choices reach the host as they are made, not only when the window closes,
     // which a panel torn down with its window does not live to see.
     for (auto changed : { &PropertiesPanelUserConfiguration::collapsedCategoriesChanged,
@@ -111,12 +113,27 @@ bool PropertiesPanel::runAction(int row)
 
 void PropertiesPanel::showIllustration(const QString& uuid)
 {
+    m_illustrationUuid = uuid;
     const auto* definition = m_properties->FindDefinition(uuid);
-    if (!definition || definition->illustration.isEmpty()) {
+    const auto& shown = m_properties->ShownObjects();
+    // The drawing of the first object stands for all: a shape's drawing for a mixed selection of
+    // shapes would be wrong for some, but the dimension it explains is the same.
+    const QString source = definition && m_structuralModel && !shown.empty()
+        ? m_structuralModel->Illustration(shown.front(), definition->key)
+        : QString();
+    if (source.isEmpty()) {
         m_illustration->Clear();
         return;
     }
-    m_illustration->Show(GetText(definition->nameId), definition->illustration, definition->key);
+    m_illustration->Show(GetText(definition->nameId), source, definition->key);
+}
+
+void PropertiesPanel::SetMessage(const QString& message)
+{
+    if (message == m_message)
+        return;
+    m_message = message;
+    emit messageChanged();
 }
 
 void PropertiesPanel::loadConfiguration(const QString& userConfiguration)
@@ -151,23 +168,22 @@ void PropertiesPanel::OnObjectValuesChanged(const ObjectValuesChangedEvent& even
     const bool concernsShown = std::any_of(event.objects.begin(), event.objects.end(), [&shown](ObjectId id) {
         return std::find(shown.begin(), shown.end(), id) != shown.end();
     });
-    if (concernsShown)
+    if (concernsShown) {
         m_properties->RefreshValues();
+        // The drawing follows what it shows (a section's shape).
+        if (!m_illustrationUuid.isEmpty())
+            showIllustration(m_illustrationUuid);
+    }
     UpdateTitle();
 }
 
 void PropertiesPanel::ShowSelection(const std::vector<ObjectId>& selection)
 {
-    std::vector<const StructuralObject*> objects;
-    if (m_structuralModel) {
-        for (ObjectId id : selection) {
-            if (const StructuralObject* object = m_structuralModel->FindObject(id))
-                objects.push_back(object);
-        }
-    }
     const bool changed = selection != m_selection;
     m_selection = selection;
-    m_entities->SetObjects(objects);
+    if (changed)
+        SetMessage({});
+    m_entities->SetObjects(m_structuralModel.get(), selection);
     if (changed)
         emit selectionChanged();
     UpdateTitle();
@@ -184,6 +200,7 @@ void PropertiesPanel::ShowCurrentEntity()
     }
     m_actions->SetActions(std::move(actions));
     m_illustration->Clear();
+    m_illustrationUuid.clear();
 }
 
 void PropertiesPanel::UpdateTitle()
@@ -192,10 +209,10 @@ void PropertiesPanel::UpdateTitle()
     if (m_selection.empty()) {
         title = GetText(QStringLiteral("UI_PROPERTIES_NO_SELECTION"));
     } else if (m_selection.size() == 1 && m_structuralModel) {
-        if (const StructuralObject* object = m_structuralModel->FindObject(m_selection.front()))
+        if (const auto* type = m_structuralModel->TypeOf(m_selection.front()))
             title = GetText(QStringLiteral("UI_PROPERTIES_TITLE_ONE"))
-                        .arg(GetText(object->Type().NameId()))
-                        .arg(object->Id());
+                        .arg(GetText(type->NameId()))
+                        .arg(Kernel::Model::NumberOf(m_selection.front()));
     } else {
         title = GetText(QStringLiteral("UI_PROPERTIES_TITLE_MANY")).arg(m_selection.size());
     }

@@ -10,6 +10,7 @@
 #include "framework/INeedEventbus.h"
 #include "qtextensions/UIComponent.h"
 
+#include <QtQml/qqmlregistration.h>
 #include <memory>
 #include <vector>
 
@@ -24,9 +25,11 @@ namespace Orvo::UI::UIComponents {
 // The native half of the properties panel: follows the host's selection, lists the
 // properties of the selected objects through the filtering proxy, writes edits back to every
 // selected object, and keeps the user's folded categories and basic/advanced mode.
-class PropertiesPanel : public QtExtensions::UIComponent, public Kernel::Framework::INeedEventbus
+// The base is named in full: the QML type description finds base classes by their full name.
+class PropertiesPanel : public Orvo::UI::QtExtensions::UIComponent, public Kernel::Framework::INeedEventbus
 {
     Q_OBJECT
+    QML_NAMED_ELEMENT(PropertiesPanel_Cpp)
     Q_PROPERTY(Orvo::UI::UIComponents::PropertiesProxyModel* propertiesModel READ propertiesModel CONSTANT)
     Q_PROPERTY(Orvo::UI::UIComponents::PropertiesModel* sourceModel READ sourceModel CONSTANT)
     Q_PROPERTY(Orvo::UI::UIComponents::EntityModel* entityModel READ entityModel CONSTANT)
@@ -37,6 +40,8 @@ class PropertiesPanel : public QtExtensions::UIComponent, public Kernel::Framewo
     Q_PROPERTY(bool inBasicMode READ isInBasicMode WRITE setInBasicMode NOTIFY inBasicModeChanged)
     Q_PROPERTY(int selectedCount READ selectedCount NOTIFY selectionChanged)
     Q_PROPERTY(QString title READ title NOTIFY titleChanged)
+    // Why the model refused the last edit; empty after an accepted one or another selection.
+    Q_PROPERTY(QString message READ message NOTIFY messageChanged)
 
 public:
     explicit PropertiesPanel(QQuickItem* parent = nullptr);
@@ -53,6 +58,7 @@ public:
     void setInBasicMode(bool inBasicMode);
     int selectedCount() const { return static_cast<int>(m_selection.size()); }
     QString title() const { return m_title; }
+    QString message() const { return m_message; }
 
     Q_INVOKABLE void toggleCategory(const QString& category);
     Q_INVOKABLE void expandAll();
@@ -73,6 +79,7 @@ signals:
     void inBasicModeChanged();
     void selectionChanged();
     void titleChanged();
+    void messageChanged();
 
 private:
     void OnSelectionChanged(const Kernel::Framework::SelectionChangedEvent& event);
@@ -81,12 +88,15 @@ private:
     void ShowCurrentEntity();
     void ApplyCollapsedCategories(const QStringList& categories);
     void UpdateTitle();
+    void SetMessage(const QString& message);
 
     std::shared_ptr<Kernel::Framework::EventBus> m_eventbus;
     std::shared_ptr<Kernel::Framework::StructuralModel> m_structuralModel;
     std::shared_ptr<std::vector<QString>> m_collapsedCategories;
     std::vector<Kernel::Framework::ObjectId> m_selection;
     QString m_title;
+    QString m_message;
+    QString m_illustrationUuid;
     PropertiesModel* m_properties;
     PropertiesProxyModel* m_proxy;
     EntityModel* m_entities;

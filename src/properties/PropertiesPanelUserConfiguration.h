@@ -2,6 +2,7 @@
 
 #include <QObject>
 #include <QStringList>
+#include <QtQml/qqmlregistration.h>
 
 namespace Orvo::UI::UIComponents {
 
@@ -11,6 +12,7 @@ namespace Orvo::UI::UIComponents {
 class PropertiesPanelUserConfiguration : public QObject
 {
     Q_OBJECT
+    QML_NAMED_ELEMENT(PropertiesPanelUserConfiguration)
     Q_PROPERTY(QStringList collapsedCategories READ collapsedCategories WRITE setCollapsedCategories NOTIFY
                    collapsedCategoriesChanged)
     Q_PROPERTY(bool inBasicMode READ inBasicMode WRITE setInBasicMode NOTIFY inBasicModeChanged)

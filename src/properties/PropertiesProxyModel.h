@@ -3,6 +3,7 @@
 #include <QSortFilterProxyModel>
 #include <QString>
 #include <QVariant>
+#include <QtQml/qqmlregistration.h>
 #include <cstdint>
 #include <memory>
 #include <vector>
@@ -16,6 +17,7 @@ namespace Orvo::UI::UIComponents {
 class PropertiesProxyModel : public QSortFilterProxyModel
 {
     Q_OBJECT
+    QML_NAMED_ELEMENT(PropertiesProxyModel)
 
 public:
     explicit PropertiesProxyModel(QObject* parent = nullptr,

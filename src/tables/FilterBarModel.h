@@ -2,6 +2,7 @@
 
 #include <QAbstractListModel>
 #include <QString>
+#include <QtQml/qqmlregistration.h>
 #include <vector>
 
 namespace Orvo::UI::UIComponents {
@@ -11,6 +12,7 @@ namespace Orvo::UI::UIComponents {
 class FilterBarModel : public QAbstractListModel
 {
     Q_OBJECT
+    QML_NAMED_ELEMENT(FilterBarModel)
     Q_PROPERTY(int rowCount READ getRowCount NOTIFY rowCountChanged)
     Q_PROPERTY(bool anyCondition READ anyCondition NOTIFY anyConditionChanged)
 

@@ -97,4 +97,19 @@ std::unique_ptr<FilterConditionBase> FilterConditionFactory::CreateFilterConditi
     return std::make_unique<ValueTextFilterCondition>(text);
 }
 
+bool FilterConditionFactory::IsMalformed(QString const& text)
+{
+    static const QString operatorCharacters = QStringLiteral("<>=[]()");
+    const QString trimmed = text.trimmed();
+    if (trimmed.isEmpty() || !operatorCharacters.contains(trimmed.front()) || CreateInterval(trimmed))
+        return false;
+    for (const auto& [operatorText, comparer] : c_operators) {
+        if (!trimmed.startsWith(operatorText, Qt::CaseSensitive))
+            continue;
+        const QString operand = trimmed.mid(operatorText.size()).trimmed();
+        return operand.isEmpty() || operatorCharacters.contains(operand.front());
+    }
+    return true;
+}
+
 } // namespace Orvo::UI::UIComponents

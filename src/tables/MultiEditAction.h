@@ -3,6 +3,7 @@
 #include <QChar>
 #include <QObject>
 #include <QString>
+#include <QtQml/qqmlregistration.h>
 
 namespace Orvo::UI::UIComponents {
 
@@ -10,6 +11,7 @@ namespace Orvo::UI::UIComponents {
 class MultiEditAction : public QObject
 {
     Q_OBJECT
+    QML_NAMED_ELEMENT(MultiEditAction)
     Q_PROPERTY(int action READ getAction CONSTANT)
     Q_PROPERTY(QString symbol READ getSymbolText CONSTANT)
     Q_PROPERTY(QString lcid READ getLcid CONSTANT)

@@ -4,6 +4,7 @@
 
 #include <QObject>
 #include <QStringList>
+#include <QtQml/qqmlregistration.h>
 #include <memory>
 #include <vector>
 
@@ -14,6 +15,7 @@ namespace Orvo::UI::UIComponents {
 class MultiEditActionSolver : public QObject
 {
     Q_OBJECT
+    QML_NAMED_ELEMENT(MultiEditActionSolver)
     Q_PROPERTY(QString expression READ getExpression WRITE setExpression NOTIFY expressionChanged)
     Q_PROPERTY(QStringList actionsLcids READ getActionsLcids CONSTANT)
     Q_PROPERTY(Orvo::UI::UIComponents::MultiEditAction* currentAction READ getCurrentAction NOTIFY

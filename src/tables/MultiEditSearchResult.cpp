@@ -4,8 +4,8 @@
 #include "TableContentModel.h"
 #include "TableSelectionFilterModel.h"
 #include "TableSelectionModel.h"
+#include "TablesLogging.h"
 #include "ValueTextFilterCondition.h"
-#include "framework/Debug.h"
 #include "plugin/QtComponentsText.h"
 
 #include <algorithm>
@@ -57,7 +57,7 @@ void MultiEditSearchResult::SearchNext(QString const& text)
     const ValueTextFilterCondition condition(text);
     const TableContentModel* source = m_table->GetSourceModel();
     if (source) {
-        try {
+        CatchAtBoundary("MultiEditSearchResult::SearchNext", [&]() {
             const int rows = m_table->rowCountSubmitted();
             const int columns = m_table->columnCount();
             for (int row = 0; row < rows; ++row) {
@@ -72,9 +72,7 @@ void MultiEditSearchResult::SearchNext(QString const& text)
                         m_matches.emplace_back(row, column);
                 }
             }
-        } catch (const std::exception& error) {
-            Kernel::Framework::DebugOutput(QStringLiteral("MultiEditSearchResult: %1").arg(error.what()));
-        }
+        });
     }
     if (!m_matches.empty())
         emit matchCountChanged();

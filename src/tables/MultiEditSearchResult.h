@@ -3,6 +3,7 @@
 #include <QObject>
 #include <QPointer>
 #include <QString>
+#include <QtQml/qqmlregistration.h>
 #include <optional>
 #include <utility>
 #include <vector>
@@ -16,6 +17,7 @@ class TableContentFilterModel;
 class MultiEditSearchResult : public QObject
 {
     Q_OBJECT
+    QML_NAMED_ELEMENT(MultiEditSearchResult)
     Q_PROPERTY(int currentMatchIndex READ getCurrentMatchIndex NOTIFY currentMatchIndexChanged)
     Q_PROPERTY(int matchCount READ getMatchCount NOTIFY matchCountChanged)
     Q_PROPERTY(bool active READ getActive WRITE setActive NOTIFY activeChanged)

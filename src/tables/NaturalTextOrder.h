@@ -1,18 +1,10 @@
 #pragma once
 
-#include <string_view>
+// The order lives in the host kit, which sorts its tables by it; the filters compare by the same.
+#include "kernel/NaturalTextOrder.h"
 
 namespace Orvo::UI::UIComponents {
 
-// The order in which filter texts and cell texts compare when they are not both numbers:
-// runs of decimal digits compare by their numeric value ("item2" before "item10", "007" equal to
-// "7"), everything else case-insensitively by the default locale's collation (character values in
-// the classic locale).
-class NaturalTextOrder
-{
-public:
-    // True when a sorts strictly before b.
-    static bool Before(std::wstring_view a, std::wstring_view b);
-};
+using Kernel::NaturalTextOrder;
 
 } // namespace Orvo::UI::UIComponents

@@ -9,7 +9,7 @@ target_sources(QtComponentsCore PRIVATE
     ${CMAKE_CURRENT_LIST_DIR}/ValueTextFilterCondition.h ${CMAKE_CURRENT_LIST_DIR}/ValueTextFilterCondition.cpp
     ${CMAKE_CURRENT_LIST_DIR}/FilterComparison.h ${CMAKE_CURRENT_LIST_DIR}/FilterComparison.cpp
     ${CMAKE_CURRENT_LIST_DIR}/FilterCellText.h ${CMAKE_CURRENT_LIST_DIR}/FilterCellText.cpp
-    ${CMAKE_CURRENT_LIST_DIR}/NaturalTextOrder.h ${CMAKE_CURRENT_LIST_DIR}/NaturalTextOrder.cpp
+    ${CMAKE_CURRENT_LIST_DIR}/NaturalTextOrder.h
     ${CMAKE_CURRENT_LIST_DIR}/UnicodeStripped.h ${CMAKE_CURRENT_LIST_DIR}/UnicodeStripped.cpp
     ${CMAKE_CURRENT_LIST_DIR}/TablesLogging.h ${CMAKE_CURRENT_LIST_DIR}/TablesLogging.cpp
     ${CMAKE_CURRENT_LIST_DIR}/TableColumn.h
@@ -22,6 +22,15 @@ target_sources(QtComponentsCore PRIVATE
     ${CMAKE_CURRENT_LIST_DIR}/TableSelectionView.h
     ${CMAKE_CURRENT_LIST_DIR}/TableSelectionModel.h ${CMAKE_CURRENT_LIST_DIR}/TableSelectionModel.cpp
     ${CMAKE_CURRENT_LIST_DIR}/TableSelectionFilterModel.h ${CMAKE_CURRENT_LIST_DIR}/TableSelectionFilterModel.cpp
+    ${CMAKE_CURRENT_LIST_DIR}/TableColumnLayout.h ${CMAKE_CURRENT_LIST_DIR}/TableColumnLayout.cpp
+    ${CMAKE_CURRENT_LIST_DIR}/TableCellText.h ${CMAKE_CURRENT_LIST_DIR}/TableCellText.cpp
+    ${CMAKE_CURRENT_LIST_DIR}/TableRoleData.h ${CMAKE_CURRENT_LIST_DIR}/TableRoleData.cpp
+    ${CMAKE_CURRENT_LIST_DIR}/TableNewRowLine.h ${CMAKE_CURRENT_LIST_DIR}/TableNewRowLine.cpp
+    ${CMAKE_CURRENT_LIST_DIR}/TableClipboard.h ${CMAKE_CURRENT_LIST_DIR}/TableClipboard.cpp
+    ${CMAKE_CURRENT_LIST_DIR}/TableSelectionParameters.h ${CMAKE_CURRENT_LIST_DIR}/TableSelectionParameters.cpp
+    ${CMAKE_CURRENT_LIST_DIR}/MultiEditSelection.h ${CMAKE_CURRENT_LIST_DIR}/MultiEditSelection.cpp
+    ${CMAKE_CURRENT_LIST_DIR}/TableContentDelivery.h ${CMAKE_CURRENT_LIST_DIR}/TableContentDelivery.cpp
+    ${CMAKE_CURRENT_LIST_DIR}/MoveVectorElement.h
     ${CMAKE_CURRENT_LIST_DIR}/TableContentModel.h ${CMAKE_CURRENT_LIST_DIR}/TableContentModel.cpp
     ${CMAKE_CURRENT_LIST_DIR}/FilterBarModel.h ${CMAKE_CURRENT_LIST_DIR}/FilterBarModel.cpp
     ${CMAKE_CURRENT_LIST_DIR}/TableContentFilterModel.h ${CMAKE_CURRENT_LIST_DIR}/TableContentFilterModel.cpp
@@ -29,4 +38,8 @@ target_sources(QtComponentsCore PRIVATE
     ${CMAKE_CURRENT_LIST_DIR}/MultiEditAction.h ${CMAKE_CURRENT_LIST_DIR}/MultiEditAction.cpp
     ${CMAKE_CURRENT_LIST_DIR}/MultiEditActionSolver.h ${CMAKE_CURRENT_LIST_DIR}/MultiEditActionSolver.cpp
     ${CMAKE_CURRENT_LIST_DIR}/MultiEditSearchResult.h ${CMAKE_CURRENT_LIST_DIR}/MultiEditSearchResult.cpp
+    ${CMAKE_CURRENT_LIST_DIR}/TableTabsModelItem.h
+    ${CMAKE_CURRENT_LIST_DIR}/TableTabsModel.h ${CMAKE_CURRENT_LIST_DIR}/TableTabsModel.cpp
+    ${CMAKE_CURRENT_LIST_DIR}/TableTabsFilterModel.h ${CMAKE_CURRENT_LIST_DIR}/TableTabsFilterModel.cpp
+    ${CMAKE_CURRENT_LIST_DIR}/TableWorkstationsModel.h ${CMAKE_CURRENT_LIST_DIR}/TableWorkstationsModel.cpp
 )

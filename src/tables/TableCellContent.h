@@ -23,7 +23,7 @@ struct TableCellContent
     };
 
     QVariant content;
-    QString text;          // display text when it differs from the value; a colour cell's colour name
+    QString text; // display text when it differs from the value; a colour cell's colour name
     QStringList allValues; // choices of a list cell
     std::int32_t parameterIndex = -1; // when set, the cell shows parametersNames[parameterIndex]
     QStringList parametersNames;

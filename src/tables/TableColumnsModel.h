@@ -2,6 +2,7 @@
 
 #include <QAbstractListModel>
 #include <QString>
+#include <QtQml/qqmlregistration.h>
 #include <vector>
 
 namespace Orvo::UI::UIComponents {
@@ -19,6 +20,7 @@ struct TableColumnModelItem
 class TableColumnsModel : public QAbstractListModel
 {
     Q_OBJECT
+    QML_NAMED_ELEMENT(TableColumnsModel)
     Q_PROPERTY(int columnCount READ getColumnCount NOTIFY columnCountChanged)
 
 public:

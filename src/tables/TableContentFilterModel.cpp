@@ -6,7 +6,6 @@
 #include "TableSelectionFilterModel.h"
 #include "TableSelectionModel.h"
 #include "TablesLogging.h"
-#include "framework/Debug.h"
 
 #include <QHash>
 
@@ -76,11 +75,19 @@ void TableContentFilterModel::SetSourceModel(TableContentModel* model)
     m_sourceModel = model;
     // Connected before the proxy connects itself: when columns move, the conditions must follow
     // their columns before the proxy re-tests its rows for the new layout.
-    if (model)
+    // So must the filter texts of columns that the source is about to remove, which the proxy drops
+    // as soon as it hears of the removal.
+    if (model) {
         connect(model, &QAbstractItemModel::columnsMoved, this, &TableContentFilterModel::onColumnsMoved);
+        connect(model, &QAbstractItemModel::columnsAboutToBeRemoved, this,
+                &TableContentFilterModel::onColumnsAboutToBeRemoved);
+    }
     setSourceModel(model);
     if (model) {
         connect(model, &QAbstractItemModel::columnsRemoved, this, &TableContentFilterModel::onColumnsRemoved);
+        // After the proxy has announced the columns: re-filtering may not start inside that.
+        connect(model, &QAbstractItemModel::columnsInserted, this,
+                &TableContentFilterModel::RestoreReturningFilterTexts);
         connect(model, &TableContentModel::columnWidthChanged, this,
                 &TableContentFilterModel::onColumnWidthChanged);
         connect(model, &TableContentModel::horizontalHeaderHeightChanged, this,
@@ -122,7 +129,8 @@ bool TableContentFilterModel::filterAcceptsRow(int sourceRow, const QModelIndex&
     if (sourceRow == m_sourceModel->newRowIndex())
         return true;
     FilteringScope filtering(m_filtering);
-    try {
+    // Without its cell a row cannot be judged; it stays visible rather than vanish silently.
+    return CatchAtBoundary("TableContentFilterModel::filterAcceptsRow", true, [&]() {
         for (const auto& [column, entry] : m_conditions) {
             const int sourceColumn = MapColumnToSource(column);
             if (sourceColumn < 0)
@@ -132,11 +140,8 @@ bool TableContentFilterModel::filterAcceptsRow(int sourceRow, const QModelIndex&
             if (!entry.condition->Evaluate(cell))
                 return false;
         }
-    } catch (const std::exception& error) {
-        // Without its cell a row cannot be judged; it stays visible rather than vanish silently.
-        Kernel::Framework::DebugOutput(QStringLiteral("TableContentFilterModel: %1").arg(error.what()));
-    }
-    return true;
+        return true;
+    });
 }
 
 void TableContentFilterModel::onFilterBarDataChanged(const QModelIndex& topLeft,
@@ -269,6 +274,37 @@ void TableContentFilterModel::onColumnsInserted(const QModelIndex& parent, int f
         m_filterBarModel->Insert(first, GetColumnsIds(first, last));
 }
 
+void TableContentFilterModel::RestoreReturningFilterTexts()
+{
+    if (!m_filterBarModel || m_textsOfReturningColumns.isEmpty())
+        return;
+    const std::vector<QString> ids = GetColumnsIds(0, columnCount() - 1);
+    for (std::size_t column = 0; column < ids.size(); ++column) {
+        const QString text = m_textsOfReturningColumns.take(ids[column]);
+        if (!text.isEmpty())
+            m_filterBarModel->setData(m_filterBarModel->index(static_cast<int>(column)), text,
+                                      FilterBarModel::ConditionTextRole);
+    }
+}
+
+void TableContentFilterModel::onColumnsAboutToBeRemoved(const QModelIndex& parent, int first, int last)
+{
+    if (parent.isValid() || !m_filterBarModel)
+        return;
+    if (!m_sourceModel->IsRebuildingColumns()) {
+        m_textsOfReturningColumns.clear();
+        return;
+    }
+    // Showing a column rebuilds all of them: what the user typed must survive the round trip.
+    for (int column = first; column <= last; ++column) {
+        const int row = MapColumnFromSource(column);
+        const QString text = m_filterBarModel->index(row).data(FilterBarModel::ConditionTextRole).toString();
+        const std::vector<QString> id = GetColumnsIds(row, row);
+        if (!id.empty() && !text.isEmpty())
+            m_textsOfReturningColumns.insert(id.front(), text);
+    }
+}
+
 void TableContentFilterModel::onColumnsRemoved(const QModelIndex& parent, int first, int last)
 {
     if (parent.isValid())
@@ -295,6 +331,17 @@ void TableContentFilterModel::onColumnWidthChanged(int sourceColumn)
     const int column = MapColumnFromSource(sourceColumn);
     if (column != -1)
         emit columnWidthChanged(column);
+}
+
+QHash<int, QByteArray> TableContentFilterModel::roleNames() const
+{
+    QHash<int, QByteArray> names = QSortFilterProxyModel::roleNames();
+    names.insert(DisplayTextRole, "displayText");
+    names.insert(SwatchColorRole, "swatchColor");
+    names.insert(EditTextRole, "editText");
+    // The row numbers of the vertical header, which header views read by this name.
+    names.insert(Qt::DisplayRole, "display");
+    return names;
 }
 
 // ---- Header and counts ---------------------------------------------------------------------------------
@@ -447,9 +494,18 @@ void TableContentFilterModel::pasteFromClipboard()
         m_sourceModel->pasteFromClipboard();
 }
 
+bool TableContentFilterModel::isFilterTextMalformed(const QString& text) const
+{
+    return FilterConditionFactory::IsMalformed(text);
+}
+
 bool TableContentFilterModel::isAllRequiredFilledForNewRow() const
 {
     return m_sourceModel && m_sourceModel->isAllRequiredFilledForNewRow();
 }
 
 } // namespace Orvo::UI::UIComponents
+
+static_assert(Orvo::UI::UIComponents::TableContentFilterModel::DisplayTextRole
+                  == Orvo::UI::UIComponents::TableContentModel::HighlightStateRole + 1,
+              "the view roles follow the content model's roles");

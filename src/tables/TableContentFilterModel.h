@@ -6,6 +6,7 @@
 
 #include <QPointer>
 #include <QSortFilterProxyModel>
+#include <QtQml/qqmlregistration.h>
 #include <map>
 #include <memory>
 #include <vector>
@@ -20,6 +21,7 @@ class TableContentModel;
 class TableContentFilterModel : public QSortFilterProxyModel
 {
     Q_OBJECT
+    QML_NAMED_ELEMENT(TableContentFilterModel)
     Q_PROPERTY(bool empty READ isEmpty NOTIFY rowCountChanged)
     Q_PROPERTY(int rowCount READ getRowCount NOTIFY rowCountChanged)
     Q_PROPERTY(int columnCount READ getColumnCount NOTIFY columnCountChanged)
@@ -27,6 +29,7 @@ class TableContentFilterModel : public QSortFilterProxyModel
     Q_PROPERTY(double horizontalHeaderHeight READ getHorizontalHeaderHeight WRITE setHorizontalHeaderHeight
                    NOTIFY horizontalHeaderHeightChanged)
     Q_PROPERTY(int newRowIndex READ newRowIndex NOTIFY rowCountChanged)
+    Q_PROPERTY(int rowCountSubmitted READ rowCountSubmitted NOTIFY rowCountChanged)
     Q_PROPERTY(bool allowAddNew READ getAllowAddNew WRITE setAllowAddNew NOTIFY allowAddNewChanged)
     Q_PROPERTY(bool allowEdit READ getAllowEdit WRITE setAllowEdit NOTIFY allowEditChanged)
     Q_PROPERTY(int columnMaxWidth READ getColumnMaxWidth CONSTANT)
@@ -35,6 +38,17 @@ class TableContentFilterModel : public QSortFilterProxyModel
                    setFilterBarModel NOTIFY filterBarModelChanged)
 
 public:
+    // What a view shows beyond the content model's own roles, prepared by the content model so
+    // that views do not format values themselves: the text of a cell, a colour cell's swatch, and
+    // the text an editor of the cell starts from.
+    enum ViewRoles
+    {
+        DisplayTextRole = Qt::UserRole + 23, // after the content model's roles
+        SwatchColorRole,
+        EditTextRole,
+    };
+    Q_ENUM(ViewRoles)
+
     explicit TableContentFilterModel(QObject* parent = nullptr);
     ~TableContentFilterModel() override;
 
@@ -49,6 +63,7 @@ public:
     int rowCountSubmitted() const;
     int newRowIndex() const;
 
+    QHash<int, QByteArray> roleNames() const override;
     QVariant headerData(int section, Qt::Orientation orientation, int role = Qt::DisplayRole) const override;
     Q_INVOKABLE bool setHeaderData(int section, Qt::Orientation orientation, const QVariant& value,
                                    int role = Qt::EditRole) override;
@@ -77,6 +92,8 @@ public:
     Q_INVOKABLE void copyToClipboard();
     Q_INVOKABLE void pasteFromClipboard();
     Q_INVOKABLE bool isAllRequiredFilledForNewRow() const;
+    // A filter text that looks like a comparison or a range but is none, for the filter bar to mark.
+    Q_INVOKABLE bool isFilterTextMalformed(const QString& text) const;
 
 signals:
     void rowCountChanged();
@@ -95,7 +112,9 @@ protected:
 private slots:
     void onColumnWidthChanged(int sourceColumn);
     void onColumnsInserted(const QModelIndex& parent, int first, int last);
+    void onColumnsAboutToBeRemoved(const QModelIndex& parent, int first, int last);
     void onColumnsRemoved(const QModelIndex& parent, int first, int last);
+    void RestoreReturningFilterTexts();
     void onColumnsMoved(const QModelIndex& parent, int start, int end, const QModelIndex& destination,
                         int column);
     void onFilterBarModelChanged();
@@ -122,6 +141,8 @@ private:
     std::vector<int> m_proxyToSource;
     std::vector<int> m_sourceToProxy;
     std::map<int, ColumnCondition> m_conditions;
+    // Filter texts of columns that the source removes only to add them again (column id -> text).
+    QHash<QString, QString> m_textsOfReturningColumns;
     mutable bool m_filtering = false;
     TableSelectionFilterModel* m_selectionModel = nullptr;
 };

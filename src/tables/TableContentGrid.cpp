@@ -1,6 +1,9 @@
 #include "TableContentGrid.h"
 
+#include "MoveVectorElement.h"
+
 #include <QString>
+#include <algorithm>
 #include <stdexcept>
 
 namespace Orvo::UI::UIComponents {
@@ -39,15 +42,8 @@ void TableContentGrid::MoveColumn(int srcIndex, int dstIndex)
     if (srcIndex < 0 || srcIndex >= m_columnCount || dstIndex < 0 || dstIndex > m_columnCount)
         throw std::overflow_error(
             "Expected range for source index is [0, count - 1] and destination index is [0, count]");
-    // dstIndex is the position before which the column lands, counted before the move.
-    const int target = dstIndex > srcIndex ? dstIndex - 1 : dstIndex;
-    if (target == srcIndex)
-        return;
-    for (Bulk& bulk : m_bulks) {
-        BulkColumn moved = std::move(bulk[static_cast<std::size_t>(srcIndex)]);
-        bulk.erase(bulk.begin() + srcIndex);
-        bulk.insert(bulk.begin() + target, std::move(moved));
-    }
+    for (Bulk& bulk : m_bulks)
+        MoveVectorElement(bulk, srcIndex, dstIndex);
 }
 
 bool TableContentGrid::IsFilled(GridContentIndex index, int column) const
@@ -82,6 +78,28 @@ const TableContentGrid::BulkColumn& TableContentGrid::GetBulkColumn(int bulk, in
                                       .arg(column)
                                       .toStdString());
     return m_bulks[static_cast<std::size_t>(bulk)][static_cast<std::size_t>(column)];
+}
+
+void TableContentGrid::StoreRows(int firstRow, int column, std::vector<TableCellContent>&& cells)
+{
+    auto source = std::make_move_iterator(cells.begin());
+    int row = firstRow;
+    int left = static_cast<int>(cells.size());
+    while (left > 0) {
+        // Each chunk ends at a bulk boundary.
+        const GridContentIndex index = GridContentIndex::FromRow(row);
+        const int chunk = std::min(left, GridContentIndex::c_rowsCountBulk - index.offset);
+        BulkColumn& bulkColumn = GetBulkColumn(index.bulk, column);
+        const std::size_t end = static_cast<std::size_t>(index.offset + chunk);
+        if (bulkColumn.cells.size() < end)
+            bulkColumn.cells.resize(end);
+        for (int i = 0; i < chunk; ++i, ++source) {
+            bulkColumn.cells[static_cast<std::size_t>(index.offset + i)] = *source;
+            bulkColumn.filled.set(static_cast<std::size_t>(index.offset + i));
+        }
+        row += chunk;
+        left -= chunk;
+    }
 }
 
 } // namespace Orvo::UI::UIComponents

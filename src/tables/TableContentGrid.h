@@ -36,8 +36,8 @@ public:
     bool IsFilled(GridContentIndex index, int column) const;
     // The cell at index; throws std::overflow_error when the bulk or the column is not allocated.
     const TableCellContent& GetCell(GridContentIndex index, int column) const;
-    // Copies count cells from first into the rows starting at index (all inside one bulk).
-    template<typename Iterator> void Store(GridContentIndex index, int column, Iterator first, int count);
+    // Stores a run of a column's cells from firstRow on, bulk by bulk; the bulks must exist.
+    void StoreRows(int firstRow, int column, std::vector<TableCellContent>&& cells);
 
 private:
     struct BulkColumn
@@ -53,20 +53,5 @@ private:
     int m_columnCount = 0;
     std::vector<Bulk> m_bulks;
 };
-
-template<typename Iterator>
-void TableContentGrid::Store(GridContentIndex index, int column, Iterator first, int count)
-{
-    BulkColumn& bulkColumn = GetBulkColumn(index.bulk, column);
-    const std::size_t end = static_cast<std::size_t>(index.offset + count);
-    if (bulkColumn.cells.empty())
-        bulkColumn.cells.reserve(end);
-    if (bulkColumn.cells.size() < end)
-        bulkColumn.cells.resize(end);
-    for (int i = 0; i < count; ++i, ++first) {
-        bulkColumn.cells[static_cast<std::size_t>(index.offset + i)] = *first;
-        bulkColumn.filled.set(static_cast<std::size_t>(index.offset + i));
-    }
-}
 
 } // namespace Orvo::UI::UIComponents

@@ -2,22 +2,29 @@
 
 #include "FilterBarModel.h"
 #include "MultiEditActionSolver.h"
-#include "MultiEditOperation.h"
 #include "MultiEditSearchResult.h"
+#include "MultiEditSelection.h"
+#include "TableCellText.h"
+#include "TableClipboard.h"
 #include "TableColorPalette.h"
+#include "TableContentDelivery.h"
 #include "TableContentFilterModel.h"
 #include "TableNumberText.h"
+#include "TableRoleData.h"
 #include "TableSelectionFilterModel.h"
 #include "TableSelectionModel.h"
 #include "TablesLogging.h"
-#include "framework/Debug.h"
+#include "events/NumberFormatChanged.h"
+#include "framework/EventBus.h"
+#include "framework/ServiceCatalog.h"
 
 #include <QClipboard>
 #include <QGuiApplication>
 #include <QMimeData>
+#include <QScopedValueRollback>
 #include <algorithm>
-#include <set>
 #include <stdexcept>
+#include <utility>
 
 namespace Orvo::UI::UIComponents {
 
@@ -26,38 +33,6 @@ namespace {
 const QList<int> c_selectionRoles { TableContentModel::SelectedRole, TableContentModel::SelectedActiveRole,
                                     TableContentModel::SelectedInRowRole,
                                     TableContentModel::SelectedInRowExtraRole };
-
-// Digits with an optional sign, decimal mark ("." or ",") and exponent: text the host reads as it
-// stands. Checked by hand because a paste of 100,000 cells cannot afford a locale round trip each.
-bool IsPlainNumber(const QString& text, bool allowFraction)
-{
-    const QStringView trimmed = QStringView(text).trimmed();
-    qsizetype i = 0;
-    const qsizetype size = trimmed.size();
-    auto digits = [&]() {
-        const qsizetype start = i;
-        while (i < size && trimmed[i] >= QLatin1Char('0') && trimmed[i] <= QLatin1Char('9'))
-            ++i;
-        return i - start;
-    };
-    if (i < size && (trimmed[i] == QLatin1Char('-') || trimmed[i] == QLatin1Char('+')))
-        ++i;
-    qsizetype count = digits();
-    if (allowFraction && i < size && (trimmed[i] == QLatin1Char('.') || trimmed[i] == QLatin1Char(','))) {
-        ++i;
-        count += digits();
-    }
-    if (count == 0)
-        return false;
-    if (allowFraction && i < size && (trimmed[i] == QLatin1Char('e') || trimmed[i] == QLatin1Char('E'))) {
-        ++i;
-        if (i < size && (trimmed[i] == QLatin1Char('-') || trimmed[i] == QLatin1Char('+')))
-            ++i;
-        if (digits() == 0)
-            return false;
-    }
-    return i == size;
-}
 
 QString FormatAllocationError(int bulk, int column)
 {
@@ -92,6 +67,22 @@ TableContentModel::TableContentModel(QObject* parent)
             &TableContentModel::onRowExtraHighlightChanged);
     connect(m_contentFilterModel, &TableContentFilterModel::filterBarModelChanged, this,
             &TableContentModel::filterBarModelChanged);
+    FollowNumberFormat();
+}
+
+void TableContentModel::FollowNumberFormat()
+{
+    const auto catalog = Kernel::Framework::ServiceCatalog::Global();
+    const auto eventbus = catalog ? catalog->Get<Kernel::Framework::EventBus>() : nullptr;
+    if (!eventbus)
+        return;
+    m_numberFormatConnection
+        = eventbus->Subscribe<Events::NumberFormatChanged>([this](const Events::NumberFormatChanged&) {
+              if (rowCount() > 0 && columnCount() > 0) {
+                  emit dataChanged(index(0, 0), index(rowCount() - 1, columnCount() - 1),
+                                   { Qt::DisplayRole, TableContentFilterModel::DisplayTextRole });
+              }
+          });
 }
 
 TableContentModel::~TableContentModel()
@@ -113,48 +104,10 @@ int TableContentModel::rowCount(const QModelIndex& parent) const
     return m_rowCountSubmitted + (m_allowAddNew ? 1 : 0);
 }
 
-int TableContentModel::columnCount(const QModelIndex& parent) const
-{
-    return parent.isValid() ? 0 : static_cast<int>(m_columns.size());
-}
-
-int TableContentModel::newRowIndex() const
-{
-    return m_allowAddNew ? rowCount() - 1 : -1;
-}
-
 bool TableContentModel::IsInTable(const QModelIndex& index) const
 {
     return index.isValid() && index.model() == this && index.row() >= 0 && index.row() < rowCount()
         && index.column() >= 0 && index.column() < columnCount();
-}
-
-QHash<int, QByteArray> TableContentModel::roleNames() const
-{
-    return {
-        { ContentRole, "content" },
-        { AllValuesRole, "allValues" },
-        { ParameterIndexRole, "parameterIndex" },
-        { ParametersNamesRole, "parametersNames" },
-        { ParametersValuesRole, "parametersValues" },
-        { ContentTypeRole, "contentType" },
-        { DecimalsRole, "decimals" },
-        { ColumnIdRole, "columnId" },
-        { ColumnLabelRole, "columnLabel" },
-        { ColumnMinWidthRole, "columnMinWidth" },
-        { EditableRole, "editable" },
-        { RequiredRole, "required" },
-        { SortableRole, "sortable" },
-        { SortOrderRole, "sortOrder" },
-        { HasActionRole, "hasAction" },
-        { SelectableRole, "selectable" },
-        { SelectedRole, "selected" },
-        { SelectedActiveRole, "selectedActive" },
-        { SelectedInRowRole, "selectedInRow" },
-        { SelectedInRowExtraRole, "selectedInRowExtra" },
-        { BoldRole, "isBold" },
-        { HighlightStateRole, "highlightState" },
-    };
 }
 
 Qt::ItemFlags TableContentModel::flags(const QModelIndex& index) const
@@ -162,7 +115,7 @@ Qt::ItemFlags TableContentModel::flags(const QModelIndex& index) const
     if (!IsInTable(index))
         return Qt::NoItemFlags;
     Qt::ItemFlags flags = Qt::ItemIsEnabled | Qt::ItemIsSelectable;
-    if (m_allowEdit && m_columns[static_cast<std::size_t>(index.column())].editable)
+    if (m_allowEdit && m_layout.At(index.column()).editable)
         flags |= Qt::ItemIsEditable;
     return flags;
 }
@@ -210,16 +163,6 @@ void TableContentModel::setAllowEdit(bool allow)
     emit allowEditChanged();
 }
 
-FilterBarModel* TableContentModel::getFilterBarModel() const
-{
-    return m_contentFilterModel->getFilterBarModel();
-}
-
-void TableContentModel::setFilterBarModel(FilterBarModel* model)
-{
-    m_contentFilterModel->setFilterBarModel(model);
-}
-
 // ---- Fetching cells ---------------------------------------------------------------------------------
 
 TableCellContent TableContentModel::GetCell(int row, int column) const
@@ -228,11 +171,6 @@ TableCellContent TableContentModel::GetCell(int row, int column) const
     if (row < 0 || !m_grid.IsFilled(gridIndex, column))
         return {};
     return m_grid.GetCell(gridIndex, column);
-}
-
-const TableCellContent& TableContentModel::GetFilledCell(int row, int column, ContentRequest request) const
-{
-    return EnsureData(row, column, request);
 }
 
 const TableCellContent& TableContentModel::EnsureData(int row, int column, ContentRequest request) const
@@ -249,26 +187,19 @@ const TableCellContent& TableContentModel::EnsureData(int row, int column, Conte
         start = 0;
         count = m_rowCountSubmitted;
     }
-    std::vector<QString> ids;
-    if (request == ContentRequest::VisibleColumns) {
-        for (const TableColumn& visible : m_columns)
-            ids.push_back(visible.id);
-    } else {
-        ids.push_back(m_columns[static_cast<std::size_t>(column)].id);
-    }
+    const std::vector<QString> ids = request == ContentRequest::VisibleColumns
+        ? m_layout.Ids()
+        : std::vector<QString> { m_layout.At(column).id };
     auto* self = const_cast<TableContentModel*>(this);
     emit self->setRowsRequest(start, count, ids);
 
     // The feeder may have delivered nothing (or something else): default cells make sure the
     // lookup cannot fail twice and the feeder is not asked again for the same rows.
-    if (!m_grid.IsFilled(gridIndex, column) && row < m_rowCountSubmitted
-        && column < static_cast<int>(m_columns.size())) {
+    if (!m_grid.IsFilled(gridIndex, column) && row < m_rowCountSubmitted && m_layout.Contains(column)) {
         qCWarning(lcTables) << "The feeder delivered no content for rows" << start << "to"
-                            << start + count - 1 << "of column"
-                            << m_columns[static_cast<std::size_t>(column)].id;
+                            << start + count - 1 << "of column" << m_layout.At(column).id;
         std::vector<TableColumnContent> defaults { TableColumnContent {
-            m_columns[static_cast<std::size_t>(column)].id,
-            std::vector<TableCellContent>(static_cast<std::size_t>(count)) } };
+            m_layout.At(column).id, std::vector<TableCellContent>(static_cast<std::size_t>(count)) } };
         self->SetRowsToGrid(start, defaults);
     }
     return m_grid.GetCell(gridIndex, column);
@@ -307,12 +238,7 @@ void TableContentModel::AddColumnsContent(std::vector<TableColumnContent>&& cont
     if (contents.empty())
         return;
     const int count = static_cast<int>(contents.front().cells.size());
-    for (const TableColumnContent& content : contents) {
-        if (static_cast<int>(content.cells.size()) != count)
-            throw std::runtime_error("Expected same size of all column contents");
-        if (FindColumnIndex(content.columnId) < 0)
-            throw std::runtime_error("Expected existing column id");
-    }
+    TableContentDelivery::ResolveColumns(contents, m_layout);
     m_pendingUpdate.Clear();
     if (count == 0)
         return;
@@ -327,77 +253,42 @@ void TableContentModel::AddColumnsContent(std::vector<TableColumnContent>&& cont
 
 void TableContentModel::SetRowsToGrid(int index, std::vector<TableColumnContent>& contents)
 {
-    if (contents.empty())
+    const std::vector<int> columns = TableContentDelivery::ResolveColumns(contents, m_layout);
+    if (contents.empty() || contents.front().cells.empty())
         return;
-    const std::size_t count = contents.front().cells.size();
-    std::vector<int> columns;
-    for (const TableColumnContent& content : contents) {
-        if (content.cells.size() != count)
-            throw std::runtime_error("Expected same size of all column contents");
-        const int column = FindColumnIndex(content.columnId);
-        if (column < 0)
-            throw std::runtime_error("Expected existing column id");
-        columns.push_back(column);
-    }
     const int firstRow = std::min(index, m_rowCountSubmitted);
-    const int lastRow = firstRow + static_cast<int>(count) - 1;
-    const int neededBulks = lastRow / c_rowsCountBulk + 1;
-    if (count > 0 && neededBulks > m_grid.GetBulkCount())
-        m_grid.AppendBulks(neededBulks - m_grid.GetBulkCount());
-
+    const int lastRow = firstRow + static_cast<int>(contents.front().cells.size()) - 1;
+    if (lastRow / c_rowsCountBulk + 1 > m_grid.GetBulkCount())
+        m_grid.AppendBulks(lastRow / c_rowsCountBulk + 1 - m_grid.GetBulkCount());
     for (std::size_t c = 0; c < contents.size(); ++c) {
-        std::vector<TableCellContent>& cells = contents[c].cells;
-        PrepareDeliveredCells(columns[c], cells);
-        int row = firstRow;
-        auto source = std::make_move_iterator(cells.begin());
-        int left = static_cast<int>(count);
-        while (left > 0) {
-            const GridContentIndex gridIndex = GridContentIndex::FromRow(row);
-            const int chunk = std::min(left, c_rowsCountBulk - gridIndex.offset);
-            m_grid.Store(gridIndex, columns[c], source, chunk);
-            source += chunk;
-            row += chunk;
-            left -= chunk;
-        }
-    }
-}
-
-void TableContentModel::PrepareDeliveredCells(int column, std::vector<TableCellContent>& cells) const
-{
-    // Colour cells are found and shown by their colour's name: give each its localised name.
-    const TableValueType columnType = m_columns[static_cast<std::size_t>(column)].type;
-    if (columnType != TableValueType::Color && columnType != TableValueType::Unknown)
-        return;
-    for (TableCellContent& cell : cells) {
-        const TableValueType type = columnType == TableValueType::Unknown ? cell.valueType : columnType;
-        if (type != TableValueType::Color || !cell.text.isEmpty())
-            continue;
-        const QString key = TableColorPalette::GetKey(TableColorPalette::FindHex(cell.content.toString()));
-        cell.text = m_colorNames.value(key);
+        TableContentDelivery::NameColours(m_layout.At(columns[c]).type, contents[c].cells, m_colorNames);
+        m_grid.StoreRows(firstRow, columns[c], std::move(contents[c].cells));
     }
 }
 
 void TableContentModel::UpdateMinimumWidths(int firstRow, int count)
 {
-    // A check box with named states (Yes/No, ...) needs room for the names: decided once per column
-    // by its first cell with a value.
-    for (int column = 0; column < columnCount(); ++column) {
-        if (m_columns[static_cast<std::size_t>(column)].type != TableValueType::Bool
-            || m_minimumWidthDecided[static_cast<std::size_t>(column)])
-            continue;
-        for (int row = firstRow; row < firstRow + count; ++row) {
-            const GridContentIndex gridIndex = GridContentIndex::FromRow(row);
-            if (!m_grid.IsFilled(gridIndex, column))
-                continue;
-            const TableCellContent& cell = m_grid.GetCell(gridIndex, column);
-            if (!cell.content.isValid())
-                continue;
-            m_minimumWidthDecided[static_cast<std::size_t>(column)] = true;
-            if (!cell.parametersNames.isEmpty())
-                setHeaderData(column, Qt::Horizontal, c_boolWithNamesMinWidth, ColumnMinWidthRole);
-            break;
-        }
+    const std::vector<int> columns
+        = TableContentDelivery::ColumnsNeedingNamedStates(m_grid, m_layout, firstRow, count);
+    if (!m_contentFilterModel->Invalidating()) {
+        for (int column : columns)
+            setHeaderData(column, Qt::Horizontal, c_boolWithNamesMinWidth, ColumnMinWidthRole);
+        return;
     }
+    // Delivered while the filter proxy tests a row: a header signal now would make the proxy
+    // rebuild the row mapping it is building. The widths follow once the filtering is over.
+    const bool queued = !m_namedStateColumnsAfterFiltering.isEmpty();
+    for (int column : columns)
+        m_namedStateColumnsAfterFiltering.append(m_layout.At(column).id);
+    if (!queued && !m_namedStateColumnsAfterFiltering.isEmpty())
+        QMetaObject::invokeMethod(this, &TableContentModel::WidenNamedStateColumns, Qt::QueuedConnection);
+}
+
+void TableContentModel::WidenNamedStateColumns()
+{
+    const QStringList ids = std::exchange(m_namedStateColumnsAfterFiltering, {});
+    for (const QString& id : ids)
+        setHeaderData(FindColumnIndex(id), Qt::Horizontal, c_boolWithNamesMinWidth, ColumnMinWidthRole);
 }
 
 void TableContentModel::ClearContent()
@@ -423,11 +314,6 @@ void TableContentModel::Clear()
     RemoveAllColumns();
 }
 
-void TableContentModel::SetColorNames(QHash<QString, QString> names)
-{
-    m_colorNames = std::move(names);
-}
-
 // ---- Item data ----------------------------------------------------------------------------------------
 
 QVariant TableContentModel::data(const QModelIndex& index, int role) const
@@ -436,151 +322,42 @@ QVariant TableContentModel::data(const QModelIndex& index, int role) const
         return {};
     if (IsNewRow(index.row()))
         return DataForNewRow(index.column(), role);
-    try {
-        return CellData(index, role);
-    } catch (const std::exception& error) {
-        // A feeder breaking its contract must not take the view down with it.
-        Kernel::Framework::DebugOutput(QStringLiteral("TableContentModel::data: %1").arg(error.what()));
-        return {};
-    }
-}
-
-QVariant TableContentModel::SelectionData(int row, int column, int role) const
-{
-    switch (role) {
-    case SelectedRole:
-        return m_selectionModel->IsCellSelected(row, column)
-            || m_selectionModel->IsCellInDraggedRegion(row, column);
-    case SelectedActiveRole:
-        return m_selectionModel->IsCurrent(row, column);
-    case SelectedInRowRole:
-        return m_selectionModel->IsWholeRowSelected(row);
-    case SelectedInRowExtraRole:
-        return m_selectionModel->IsRowExtraHighlighted(row);
-    default:
-        return {};
-    }
-}
-
-QVariant TableContentModel::CurrentValue(const TableCellContent& cell, int row, int column) const
-{
-    if (m_pendingUpdate.Contains(row, column))
-        return m_pendingUpdate.GetValue(row, column);
-    return cell.content;
+    // A feeder breaking its contract must not take the view down with it.
+    return CatchAtBoundary("TableContentModel::data", QVariant(), [&]() { return CellData(index, role); });
 }
 
 QVariant TableContentModel::CellData(const QModelIndex& index, int role) const
 {
     const int row = index.row();
     const int column = index.column();
-    switch (role) {
-    case SelectedRole:
-    case SelectedActiveRole:
-    case SelectedInRowRole:
-    case SelectedInRowExtraRole:
-        return SelectionData(row, column, role);
-    case SelectableRole:
+    if (role == SelectableRole)
         return true;
-    case ContentRole:
-    case AllValuesRole:
-    case ParameterIndexRole:
-    case ParametersNamesRole:
-    case ParametersValuesRole:
-    case ContentTypeRole:
-    case DecimalsRole:
-    case EditableRole:
-    case HasActionRole:
-    case BoldRole:
-    case HighlightStateRole:
-        break;
-    default:
-        return {};
-    }
-
+    if (!TableRoleData::IsRecordRole(role))
+        return m_selectionModel->RoleData(row, column, role);
     const TableCellContent& cell = EnsureData(row, column, ContentRequest::VisibleColumns);
-    switch (role) {
-    case ContentRole:
-        return CurrentValue(cell, row, column);
-    case AllValuesRole:
-        if (GetValueType(index) == TableValueType::Color)
-            return TableColorPalette::GetHexValues();
-        return QVariant(QVariantList(cell.allValues.begin(), cell.allValues.end()));
-    case ParameterIndexRole:
-        if (m_pendingUpdate.Contains(row, column) && !cell.parametersNames.isEmpty()) {
-            const int pending = static_cast<int>(
-                cell.parametersNames.indexOf(m_pendingUpdate.GetValue(row, column).toString()));
-            if (pending >= 0)
-                return pending;
-        }
-        return cell.parameterIndex;
-    case ParametersNamesRole:
-        return cell.parametersNames;
-    case ParametersValuesRole:
-        return cell.parametersValues;
-    case ContentTypeRole:
-        return static_cast<int>(GetValueType(index));
-    case DecimalsRole:
-        return cell.decimals ? QVariant(static_cast<int>(*cell.decimals)) : QVariant();
-    case EditableRole:
-        return m_columns[static_cast<std::size_t>(column)].editable && cell.editable;
-    case HasActionRole:
-        return cell.hasAction;
-    case BoldRole:
-        return cell.bold;
-    case HighlightStateRole:
-        return cell.highlightState;
-    default:
-        return {};
-    }
+    return TableRoleData::RecordData(cell, m_layout.At(column), GetValueType(row, column),
+                                     m_pendingUpdate.GetValue(row, column), role);
 }
 
 QVariant TableContentModel::DataForNewRow(int column, int role) const
 {
-    if (column < 0 || column >= columnCount())
+    if (!m_layout.Contains(column))
         return {};
-    const TableColumn& tableColumn = m_columns[static_cast<std::size_t>(column)];
-    switch (role) {
-    case ContentRole:
-        return m_newRowValues[static_cast<std::size_t>(column)];
-    case AllValuesRole:
-        return tableColumn.type == TableValueType::Color ? QVariant(TableColorPalette::GetHexValues())
-                                                         : QVariant();
-    case ContentTypeRole:
-        return static_cast<int>(TableValueType::String);
-    case EditableRole:
-        return tableColumn.editable;
-    case RequiredRole:
-        return tableColumn.required;
-    case SelectableRole:
-        return true;
-    case SelectedRole:
-    case SelectedActiveRole:
-    case SelectedInRowRole:
-    case SelectedInRowExtraRole:
-        return SelectionData(m_rowCountSubmitted, column, role);
-    default:
-        return {};
-    }
+    const QVariant selection = m_selectionModel->RoleData(m_rowCountSubmitted, column, role);
+    return selection.isValid() ? selection
+                               : TableRoleData::NewRowData(m_layout.At(column), m_newRow.Value(column), role);
 }
 
-TableValueType TableContentModel::GetValueType(const QModelIndex& index) const
+TableValueType TableContentModel::GetValueType(int row, int column) const
 {
-    const int column = index.column();
-    if (column < 0 || column >= columnCount())
+    if (!m_layout.Contains(column))
         return TableValueType::Unknown;
-    const TableValueType columnType = m_columns[static_cast<std::size_t>(column)].type;
+    const TableValueType columnType = m_layout.At(column).type;
     if (columnType != TableValueType::Unknown)
         return columnType;
-    if (index.row() < 0 || index.row() >= m_rowCountSubmitted)
+    if (row < 0 || row >= m_rowCountSubmitted)
         return TableValueType::Unknown;
-    return EnsureData(index.row(), column, ContentRequest::VisibleColumns).valueType;
-}
-
-int TableContentModel::FindColumnIndex(const QString& columnId) const
-{
-    const auto it = std::find_if(m_columns.begin(), m_columns.end(),
-                                 [&](const TableColumn& column) { return column.id == columnId; });
-    return it == m_columns.end() ? -1 : static_cast<int>(it - m_columns.begin());
+    return EnsureData(row, column, ContentRequest::VisibleColumns).valueType;
 }
 
 // ---- Header ---------------------------------------------------------------------------------------------
@@ -596,33 +373,7 @@ QVariant TableContentModel::headerData(int section, Qt::Orientation orientation,
             return section < m_rowCountSubmitted;
         return {};
     }
-    return HorizontalHeaderData(section, role);
-}
-
-QVariant TableContentModel::HorizontalHeaderData(int section, int role) const
-{
-    if (section < 0 || section >= columnCount())
-        return {};
-    const TableColumn& column = m_columns[static_cast<std::size_t>(section)];
-    switch (role) {
-    case Qt::DisplayRole:
-    case ColumnLabelRole:
-        return column.label;
-    case ColumnIdRole:
-        return column.id;
-    case ColumnMinWidthRole:
-        return column.minWidth;
-    case RequiredRole:
-        return column.required;
-    case SortableRole:
-        return column.sortable;
-    case SortOrderRole:
-        return column.sortOrder;
-    case SelectableRole:
-        return true;
-    default:
-        return {};
-    }
+    return m_layout.Contains(section) ? TableRoleData::HeaderData(m_layout.At(section), role) : QVariant();
 }
 
 bool TableContentModel::setHeaderData(int section, Qt::Orientation orientation, const QVariant& value,
@@ -630,34 +381,22 @@ bool TableContentModel::setHeaderData(int section, Qt::Orientation orientation, 
 {
     if (orientation != Qt::Horizontal || section < 0 || section >= columnCount())
         return false;
-    TableColumn& column = m_columns[static_cast<std::size_t>(section)];
     if (role == SortOrderRole) {
-        const int order = value.toInt();
-        if (column.sortOrder == order)
+        const std::vector<int> changed = m_layout.SetSortOrder(section, value.toInt());
+        if (changed.empty())
             return false;
-        // The host sorts by one column at a time.
-        for (int other = 0; other < columnCount(); ++other) {
-            TableColumn& otherColumn = m_columns[static_cast<std::size_t>(other)];
-            if (other != section && otherColumn.sortOrder != Unsorted) {
-                otherColumn.sortOrder = Unsorted;
-                emit headerDataChanged(Qt::Horizontal, other, other);
-            }
-        }
-        column.sortOrder = order;
-        emit headerDataChanged(Qt::Horizontal, section, section);
+        for (int column : changed)
+            emit headerDataChanged(Qt::Horizontal, column, column);
         emit columnsLayoutChanged();
         emit refillContentRequest();
         return true;
     }
     if (role == ColumnMinWidthRole) {
-        const int minWidth = value.toInt();
-        if (column.minWidth == minWidth)
+        const int liveWidth = m_layout.LiveWidth(section);
+        if (!m_layout.SetMinWidth(section, value.toInt()))
             return false;
-        column.minWidth = minWidth;
-        if (column.width < minWidth) {
-            column.width = minWidth;
-            setColumnWidth(section, minWidth);
-        }
+        if (m_layout.LiveWidth(section) != liveWidth)
+            emit columnWidthChanged(section);
         emit headerDataChanged(Qt::Horizontal, section, section);
         emit columnsLayoutChanged();
         return true;
@@ -669,7 +408,7 @@ bool TableContentModel::setHeaderData(int section, Qt::Orientation orientation, 
 
 bool TableContentModel::IsCellEditable(int row, int column) const
 {
-    if (!m_columns[static_cast<std::size_t>(column)].editable || row >= m_rowCountSubmitted)
+    if (!m_layout.At(column).editable || row >= m_rowCountSubmitted)
         return false;
     return EnsureData(row, column, ContentRequest::VisibleColumns).editable;
 }
@@ -678,192 +417,99 @@ bool TableContentModel::setData(const QModelIndex& index, const QVariant& value,
 {
     if ((role != Qt::EditRole && role != ContentRole && role != ParameterIndexRole) || !IsInTable(index))
         return false;
-    const int row = index.row();
-    const int column = index.column();
-    if (IsNewRow(row))
-        return SetDataForNewRow(column, value, role);
-    try {
-        if (!m_allowEdit || !IsCellEditable(row, column))
-            return false;
-        const TableCellContent& cell = EnsureData(row, column, ContentRequest::VisibleColumns);
-        QVariant newValue = value;
-        if (role == ParameterIndexRole) {
-            const int parameter = value.toInt();
-            if (parameter < 0 || parameter >= cell.parametersNames.size()) {
-                qCWarning(lcTables) << "setData: no parameter" << parameter << "in cell" << row << column;
-                return false;
-            }
-            newValue = cell.parametersNames[parameter];
-        } else if (value.typeId() == QMetaType::QString) {
-            // Typed text: numbers may be expressions, named values are matched case-insensitively.
-            const QString converted
-                = CreateContentUpdateValue(value.toString(), GetValueType(index), cell.parametersNames);
-            if (converted.isNull())
-                return false;
-            newValue = converted;
-        }
-        const QVariant cachedValue = cell.parameterIndex == -1
-            ? cell.content
-            : QVariant(cell.parametersNames.value(cell.parameterIndex));
-        const bool same = newValue == cachedValue
-            || (newValue.typeId() == QMetaType::QString
-                && ToString(cachedValue, GetValueType(index)) == newValue.toString());
-        if (same) {
-            if (!m_pendingUpdate.Contains(row, column))
-                return false;
-            // Back to the value the host has: the pending edit is withdrawn.
-            m_pendingUpdate.Remove(row, column);
-        } else {
-            m_pendingUpdate.SetValue(row, column, newValue);
-        }
-        emit dataChanged(index, index, { role });
-        return true;
-    } catch (const std::exception& error) {
-        Kernel::Framework::DebugOutput(QStringLiteral("TableContentModel::setData: %1").arg(error.what()));
+    if (IsNewRow(index.row()))
+        return SetDataForNewRow(index.column(), value, role);
+    // An edit is taken by role and place; allowEdit is the view's business (and governs paste).
+    return CatchAtBoundary("TableContentModel::setData", false,
+                           [&]() { return SetCellValue(index.row(), index.column(), value, role); });
+}
+
+bool TableContentModel::SetCellValue(int row, int column, QVariant value, int role)
+{
+    if (!IsCellEditable(row, column))
         return false;
+    const TableCellContent& cell = EnsureData(row, column, ContentRequest::VisibleColumns);
+    const TableValueType type = GetValueType(row, column);
+    if (role == ParameterIndexRole) {
+        const int parameter = value.toInt();
+        if (parameter < 0 || parameter >= cell.parametersNames.size()) {
+            qCWarning(lcTables) << "setData: no parameter" << parameter << "in cell" << row << column;
+            return false;
+        }
+        value = cell.parametersNames[parameter];
+    } else if (value.typeId() == QMetaType::QString) {
+        // Typed text: numbers may be expressions, named values are matched case-insensitively.
+        value = TableCellText::CreateContentUpdateValue(value.toString(), type, cell.parametersNames,
+                                                        TableNumberText());
+        if (value.toString().isNull())
+            return false;
     }
+    if (TableCellText::IsCachedValue(cell, value, type)) {
+        if (!m_pendingUpdate.Contains(row, column))
+            return false;
+        // Back to the value the host has: the pending edit is withdrawn.
+        m_pendingUpdate.Remove(row, column);
+    } else {
+        m_pendingUpdate.SetValue(row, column, value);
+    }
+    const QModelIndex changed = index(row, column);
+    emit dataChanged(changed, changed, { role, ContentRole, TableContentFilterModel::DisplayTextRole });
+    return true;
 }
 
 bool TableContentModel::SetDataForNewRow(int column, const QVariant& value, int role)
 {
-    if (column < 0 || column >= columnCount())
+    if (!m_newRow.SetValue(column, value.toString()))
         return false;
-    m_newRowValues[static_cast<std::size_t>(column)] = value.toString();
-    m_newRowHasData = true;
-    const QModelIndex index = this->index(newRowIndex(), column);
-    emit dataChanged(index, index, { role });
-    return true;
-}
-
-bool TableContentModel::isAllRequiredFilledForNewRow() const
-{
-    for (std::size_t column = 0; column < m_columns.size(); ++column) {
-        if (m_columns[column].required && m_newRowValues[column].isEmpty())
-            return false;
-    }
+    const QModelIndex changed = index(newRowIndex(), column);
+    emit dataChanged(changed, changed, { role, TableContentFilterModel::DisplayTextRole });
     return true;
 }
 
 void TableContentModel::confirmUpdate()
 {
-    if (m_newRowHasData && m_allowAddNew && isAllRequiredFilledForNewRow()) {
-        for (std::size_t column = 0; column < m_newRowValues.size(); ++column) {
-            if (!m_newRowValues[column].isEmpty())
-                m_pendingUpdate.SetValue(newRowIndex(), static_cast<int>(column), m_newRowValues[column]);
-        }
-    }
+    if (m_allowAddNew && m_newRow.IsAllRequiredFilled(m_layout))
+        m_newRow.CopyInto(m_pendingUpdate, newRowIndex());
     if (m_pendingUpdate.IsEmpty())
         return;
-    const TableContentUpdate update = m_pendingUpdate;
-    for (QString& value : m_newRowValues)
-        value.clear();
-    m_newRowHasData = false;
-    emit updateDataRequest(update);
+    m_newRow.Clear();
+    emit updateDataRequest(m_pendingUpdate);
 }
 
-TableCellContent TableContentModel::CreateCellContent(const Kernel::Tables::TableResultsValue& value)
+void TableContentModel::QueueEdits(const TableContentUpdate& edits, const QList<int>& roles)
 {
-    TableCellContent cell;
-    cell.content = QString::fromStdWString(value.text);
-    cell.bold = value.bold;
-    return cell;
-}
-
-QString TableContentModel::ToString(const QVariant& value, TableValueType type)
-{
-    return ToString(value, type, TableNumberText());
-}
-
-QString TableContentModel::ToString(const QVariant& value, TableValueType type,
-                                    const TableNumberText& numbers)
-{
-    switch (type) {
-    case TableValueType::Real: {
-        bool ok = false;
-        const double number = value.toDouble(&ok);
-        return ok ? numbers.ToEditText(number) : value.toString();
+    int top = m_rowCountSubmitted, bottom = -1, left = columnCount(), right = -1;
+    for (const auto& [row, values] : edits.GetRows()) {
+        for (const auto& [column, value] : values) {
+            m_pendingUpdate.SetValue(row, column, value);
+            if (row >= m_rowCountSubmitted)
+                continue;
+            top = std::min(top, row);
+            bottom = std::max(bottom, row);
+            left = std::min(left, column);
+            right = std::max(right, column);
+        }
     }
-    case TableValueType::Bool:
-        return value.toBool() ? QStringLiteral("1") : QStringLiteral("0");
-    default:
-        return value.toString();
-    }
-}
-
-QString TableContentModel::CreateContentUpdateValue(const QString& text, TableValueType type,
-                                                    const QStringList& parametersNames)
-{
-    const bool numeric
-        = type == TableValueType::Bool || type == TableValueType::Integer || type == TableValueType::Real;
-    return numeric ? CreateContentUpdateValue(text, type, parametersNames, TableNumberText()) : text;
-}
-
-QString TableContentModel::CreateContentUpdateValue(const QString& text, TableValueType type,
-                                                    const QStringList& parametersNames,
-                                                    const TableNumberText& numbers)
-{
-    const bool numeric
-        = type == TableValueType::Bool || type == TableValueType::Integer || type == TableValueType::Real;
-    if (!numeric)
-        return text;
-    for (const QString& name : parametersNames) {
-        if (name.compare(text.trimmed(), Qt::CaseInsensitive) == 0)
-            return name;
-    }
-    const auto number = TableNumberText::Parse(text);
-    if (!number)
-        return QString();
-    switch (type) {
-    case TableValueType::Bool:
-        if (!parametersNames.isEmpty())
-            return *number != 0.0 ? parametersNames.value(0)
-                                  : parametersNames.value(1, parametersNames.value(0));
-        return *number != 0.0 ? QStringLiteral("1") : QStringLiteral("0");
-    case TableValueType::Integer:
-        // A plain number goes to the host as typed; an expression as the number it stands for.
-        return IsPlainNumber(text, false) ? text.trimmed() : QString::number(std::llround(*number));
-    default:
-        return IsPlainNumber(text, true) ? text.trimmed() : numbers.ToEditText(*number);
-    }
+    // One repaint for a paste of many cells, not one per cell.
+    if (bottom >= top)
+        emit dataChanged(index(top, left), index(bottom, right), roles);
 }
 
 // ---- Column layout ---------------------------------------------------------------------------------
 
-int TableContentModel::rowHeight(int) const
-{
-    return c_rowHeight;
-}
-
-int TableContentModel::columnWidth(int column) const
-{
-    if (column < 0 || column >= columnCount())
-        return 0;
-    return m_columnWidths[static_cast<std::size_t>(column)];
-}
-
 void TableContentModel::setColumnWidth(int column, int width)
 {
-    if (column < 0 || column >= columnCount()) {
+    if (!m_layout.Contains(column)) {
         qCWarning(lcTables) << "setColumnWidth: no column" << column;
         return;
     }
-    width = std::max(width, m_columns[static_cast<std::size_t>(column)].minWidth);
-    int& liveWidth = m_columnWidths[static_cast<std::size_t>(column)];
-    if (liveWidth == width)
-        return;
-    liveWidth = width;
-    emit columnWidthChanged(column);
+    if (m_layout.SetLiveWidth(column, width))
+        emit columnWidthChanged(column);
 }
 
 bool TableContentModel::submitLayout()
 {
-    bool changed = false;
-    for (std::size_t column = 0; column < m_columns.size(); ++column) {
-        if (m_columns[column].width != m_columnWidths[column]) {
-            m_columns[column].width = m_columnWidths[column];
-            changed = true;
-        }
-    }
+    const bool changed = m_layout.Submit();
     if (changed)
         emit columnsLayoutChanged();
     return changed;
@@ -871,28 +517,15 @@ bool TableContentModel::submitLayout()
 
 void TableContentModel::extendAllColumns()
 {
-    if (m_columns.empty())
-        return;
-    // Widths snap to the next multiple of the step; integer division is deliberate.
-    for (int column = 0; column < columnCount(); ++column) {
-        const int width = m_columnWidths[static_cast<std::size_t>(column)];
-        const qint64 snapped = (static_cast<qint64>(width) / c_columnWidthStep + 1) * c_columnWidthStep;
-        setColumnWidth(
-            column, std::max<int>(width, static_cast<int>(std::min<qint64>(snapped, getColumnMaxWidth()))));
-    }
+    for (int column : m_layout.Extend())
+        emit columnWidthChanged(column);
     submitLayout();
 }
 
 void TableContentModel::narrowAllColumns()
 {
-    if (m_columns.empty())
-        return;
-    for (int column = 0; column < columnCount(); ++column) {
-        const int width = m_columnWidths[static_cast<std::size_t>(column)];
-        const int snapped = (width / c_columnWidthStep - 1) * c_columnWidthStep;
-        setColumnWidth(
-            column, std::min(width, std::max(snapped, m_columns[static_cast<std::size_t>(column)].minWidth)));
-    }
+    for (int column : m_layout.Narrow())
+        emit columnWidthChanged(column);
     submitLayout();
 }
 
@@ -903,16 +536,11 @@ void TableContentModel::AddColumns(std::vector<TableColumn>&& columns)
     if (columns.empty())
         return;
     const int first = columnCount();
-    beginInsertColumns(QModelIndex(), first, first + static_cast<int>(columns.size()) - 1);
-    for (TableColumn& column : columns) {
-        if (column.width <= 0)
-            column.width = c_columnWidthStep;
-        m_columnWidths.push_back(column.width);
-        m_minimumWidthDecided.push_back(false);
-        m_newRowValues.emplace_back();
-        m_columns.push_back(std::move(column));
-    }
-    m_grid.AppendColumns(static_cast<int>(columns.size()));
+    const int count = static_cast<int>(columns.size());
+    beginInsertColumns(QModelIndex(), first, first + count - 1);
+    m_layout.Append(std::move(columns));
+    m_newRow.AppendColumns(count);
+    m_grid.AppendColumns(count);
     endInsertColumns();
     emit columnCountChanged();
     emit columnsLayoutChanged();
@@ -921,14 +549,13 @@ void TableContentModel::AddColumns(std::vector<TableColumn>&& columns)
 
 void TableContentModel::RemoveColumn(int index, bool notify)
 {
-    if (index < 0 || index >= columnCount())
+    if (!m_layout.Contains(index))
         throw std::overflow_error(QStringLiteral("There is no column at %1").arg(index).toStdString());
     beginRemoveColumns(QModelIndex(), index, index);
-    m_columns.erase(m_columns.begin() + index);
-    m_columnWidths.erase(m_columnWidths.begin() + index);
-    m_minimumWidthDecided.erase(m_minimumWidthDecided.begin() + index);
-    m_newRowValues.erase(m_newRowValues.begin() + index);
+    m_layout.Remove(index);
+    m_newRow.RemoveColumn(index);
     m_grid.RemoveColumn(index);
+    m_pendingUpdate.RemoveColumn(index);
     endRemoveColumns();
     if (notify) {
         emit columnCountChanged();
@@ -946,22 +573,17 @@ void TableContentModel::RemoveAllColumns()
 
 void TableContentModel::UpdateColumnLabel(int index, const QString& label)
 {
-    if (index < 0 || index >= columnCount())
+    if (!m_layout.Contains(index))
         return;
-    m_columns[static_cast<std::size_t>(index)].label = label;
+    m_layout.SetLabel(index, label);
     emit headerDataChanged(Qt::Horizontal, index, index);
-}
-
-void TableContentModel::SetAllColumns(std::vector<TableColumnModelItem>&& columns)
-{
-    m_columnsModel->SetAll(std::move(columns));
 }
 
 int TableContentModel::FindParentColumnIndex(int column) const
 {
-    if (column < 0 || column >= columnCount())
+    if (!m_layout.Contains(column))
         return -1;
-    return m_columnsModel->FindIndexById(m_columns[static_cast<std::size_t>(column)].parentId);
+    return m_columnsModel->FindIndexById(m_layout.At(column).parentId);
 }
 
 void TableContentModel::moveColumn(int srcIndex, int dstIndex)
@@ -972,21 +594,13 @@ void TableContentModel::moveColumn(int srcIndex, int dstIndex)
     // Dropping a column just after itself moves nothing; Qt rejects such a move as well.
     if (!beginMoveColumns(QModelIndex(), srcIndex, srcIndex, QModelIndex(), dstIndex))
         return;
-    const QString movedId = m_columns[static_cast<std::size_t>(srcIndex)].id;
-    const QString beforeId = dstIndex < count ? m_columns[static_cast<std::size_t>(dstIndex)].id : QString();
-    const int target = dstIndex > srcIndex ? dstIndex - 1 : dstIndex;
-    auto move = [&](auto& vector) {
-        auto moved = std::move(vector[static_cast<std::size_t>(srcIndex)]);
-        vector.erase(vector.begin() + srcIndex);
-        vector.insert(vector.begin() + target, std::move(moved));
-    };
-    move(m_columns);
-    move(m_columnWidths);
-    move(m_newRowValues);
-    const bool decided = m_minimumWidthDecided[static_cast<std::size_t>(srcIndex)];
-    m_minimumWidthDecided.erase(m_minimumWidthDecided.begin() + srcIndex);
-    m_minimumWidthDecided.insert(m_minimumWidthDecided.begin() + target, decided);
+    const QString movedId = m_layout.At(srcIndex).id;
+    const QString beforeId = dstIndex < count ? m_layout.At(dstIndex).id : QString();
+    m_layout.Move(srcIndex, dstIndex);
+    m_newRow.MoveColumn(srcIndex, dstIndex);
     m_grid.MoveColumn(srcIndex, dstIndex);
+    // Edits not confirmed yet go with their column.
+    m_pendingUpdate.MoveColumn(srcIndex, dstIndex);
     m_columnsModel->MoveVisibleColumn(movedId, beforeId);
     endMoveColumns();
     emit columnsLayoutChanged();
@@ -1016,70 +630,31 @@ void TableContentModel::onColumnsVisibilityChanged(std::vector<int> indexes, boo
 void TableContentModel::RequestAllVisibleColumns()
 {
     // The feeder knows how to build columns; it answers with AddColumns in the columns model's order.
+    const QScopedValueRollback rebuilding(m_rebuildingColumns, true);
     if (columnCount() > 0)
         RemoveAllColumns();
     emit addColumnsRequest(m_columnsModel->GetVisibleIds());
 }
 
-// ---- Actions ------------------------------------------------------------------------------------------
+// ---- Actions, clipboard, multi-edit -------------------------------------------------------------------
 
 void TableContentModel::executeAction(const QModelIndex& index)
 {
     if (!IsInTable(index) || index.row() >= m_rowCountSubmitted)
         return;
-    try {
+    CatchAtBoundary("TableContentModel::executeAction", [&]() {
         if (EnsureData(index.row(), index.column(), ContentRequest::VisibleColumns).hasAction)
             emit executeActionRequest(index.row(), index.column());
-    } catch (const std::exception& error) {
-        Kernel::Framework::DebugOutput(
-            QStringLiteral("TableContentModel::executeAction: %1").arg(error.what()));
-    }
+    });
 }
-
-QString TableContentModel::getColorLcid(int index) const
-{
-    return TableColorPalette::GetKey(index);
-}
-
-// ---- Clipboard -----------------------------------------------------------------------------------------
 
 void TableContentModel::copyToClipboard()
 {
-    const auto envelope = m_selectionModel->GetSourceEnvelope();
-    if (!envelope)
-        return;
-    try {
-        // The clipboard carries every digit, so that a copy pasted back changes nothing.
-        const TableNumberText numbers(TableNumberText::Precision::Exact);
-        QStringList labels;
-        for (int column = envelope->left; column <= envelope->right; ++column)
-            labels.append(m_columns[static_cast<std::size_t>(column)].label);
-        QStringList lines { labels.join(QLatin1Char('\t')) };
-        QStringList fields;
-        for (int row = envelope->top; row <= std::min(envelope->bottom, m_rowCountSubmitted - 1); ++row) {
-            fields.clear();
-            bool anySelected = false;
-            for (int column = envelope->left; column <= envelope->right; ++column) {
-                if (!m_selectionModel->IsCellSelected(row, column)) {
-                    fields.append(QString());
-                    continue;
-                }
-                anySelected = true;
-                const TableCellContent& cell = EnsureData(row, column, ContentRequest::VisibleColumns);
-                if (cell.parameterIndex != -1)
-                    fields.append(cell.parametersNames.value(cell.parameterIndex));
-                else
-                    fields.append(ToString(cell.content, GetValueType(index(row, column)), numbers));
-            }
-            if (anySelected)
-                lines.append(fields.join(QLatin1Char('\t')));
-        }
-        if (QClipboard* clipboard = QGuiApplication::clipboard())
-            clipboard->setText(lines.join(QLatin1Char('\n')));
-    } catch (const std::exception& error) {
-        Kernel::Framework::DebugOutput(
-            QStringLiteral("TableContentModel::copyToClipboard: %1").arg(error.what()));
-    }
+    const QString text = CatchAtBoundary("TableContentModel::copyToClipboard", QString(),
+                                         [&]() { return TableClipboard(*this).CopyText(); });
+    QClipboard* clipboard = QGuiApplication::clipboard();
+    if (clipboard && !text.isEmpty())
+        clipboard->setText(text);
 }
 
 bool TableContentModel::clipboardContainsData() const
@@ -1095,85 +670,11 @@ void TableContentModel::pasteFromClipboard()
     const QString text = clipboard ? clipboard->text() : QString();
     if (text.isEmpty())
         return;
-    QStringList lines = text.split(QLatin1Char('\n'));
-    if (!lines.isEmpty() && lines.back().isEmpty())
-        lines.removeLast();
-    if (lines.isEmpty())
-        return;
-
-    const QModelIndex current = m_contentFilterModel->selectionModel()->getCurrentSelectedIndex();
-    const int startRow = current.isValid() ? current.row() : 0;
-    const int startColumn = current.isValid() ? current.column() : 0;
-
-    // Spreadsheets put the column labels first; two labels are enough to recognise such a line.
-    int firstLine = 0;
-    {
-        const QStringList header = lines.front().split(QLatin1Char('\t'));
-        bool isHeader = true;
-        for (int k = 0; k < std::min<int>(static_cast<int>(header.size()), 2); ++k) {
-            const bool known
-                = std::any_of(m_columns.begin(), m_columns.end(),
-                              [&](const TableColumn& column) { return column.label == header[k]; });
-            isHeader = isHeader && known;
-        }
-        if (isHeader)
-            firstLine = 1;
-    }
-
-    const int records = m_contentFilterModel->rowCountSubmitted();
-    const TableNumberText numbers;
-    int top = m_rowCountSubmitted, bottom = -1, right = -1;
-    int newRow = m_rowCountSubmitted;
-    try {
-        for (int line = firstLine; line < lines.size(); ++line) {
-            const QStringList fields = lines[line].split(QLatin1Char('\t'));
-            const int viewRow = startRow + (line - firstLine);
-            const bool existing = viewRow < records;
-            if (existing && !m_allowEdit)
-                continue;
-            if (!existing && !m_allowAddNew)
-                break;
-            const int row = existing
-                ? m_contentFilterModel->mapToSource(m_contentFilterModel->index(viewRow, 0)).row()
-                : newRow++;
-            for (int k = 0; k < fields.size(); ++k) {
-                const int column = startColumn + k;
-                if (column >= columnCount())
-                    break;
-                const TableColumn& tableColumn = m_columns[static_cast<std::size_t>(column)];
-                if (!tableColumn.editable)
-                    continue;
-                QString value;
-                if (existing) {
-                    const TableCellContent& cell = EnsureData(row, column, ContentRequest::VisibleColumns);
-                    if (!cell.editable)
-                        continue;
-                    const TableValueType type
-                        = tableColumn.type != TableValueType::Unknown ? tableColumn.type : cell.valueType;
-                    value = CreateContentUpdateValue(fields[k], type, cell.parametersNames, numbers);
-                } else {
-                    value = CreateContentUpdateValue(fields[k], tableColumn.type, {}, numbers);
-                }
-                if (value.isNull())
-                    continue;
-                m_pendingUpdate.SetValue(row, column, value);
-                if (existing) {
-                    top = std::min(top, row);
-                    bottom = std::max(bottom, row);
-                    right = std::max(right, column);
-                }
-            }
-        }
-    } catch (const std::exception& error) {
-        Kernel::Framework::DebugOutput(
-            QStringLiteral("TableContentModel::pasteFromClipboard: %1").arg(error.what()));
-    }
-    // One repaint for the whole paste, not one per cell.
-    if (bottom >= top)
-        emit dataChanged(index(top, startColumn), index(bottom, right), { ContentRole });
+    const TableContentUpdate pasted
+        = CatchAtBoundary("TableContentModel::pasteFromClipboard", TableContentUpdate(),
+                          [&]() { return TableClipboard(*this).PasteUpdate(text); });
+    QueueEdits(pasted, { ContentRole, TableContentFilterModel::DisplayTextRole });
 }
-
-// ---- Multi-edit ------------------------------------------------------------------------------------------
 
 void TableContentModel::setDataForSelection(int action, const QString& value)
 {
@@ -1187,73 +688,43 @@ void TableContentModel::setDataForSelection(int action, const QString& value)
     }
     if (!m_allowEdit)
         return;
-    const auto envelope = m_selectionModel->GetSourceEnvelope();
-    if (!envelope)
-        return;
-    bool changed = false;
-    try {
-        m_selectionModel->ForEachSelectedCell([&](int row, int column) {
-            if (row >= m_rowCountSubmitted || !IsCellEditable(row, column))
-                return;
-            const TableCellContent& cell = EnsureData(row, column, ContentRequest::VisibleColumns);
-            MultiEditOperation::Cell operand { CurrentValue(cell, row, column),
-                                               GetValueType(index(row, column)), cell.parametersNames,
-                                               cell.allValues, cell.parameterIndex != -1 };
-            const auto result = MultiEditOperation::Apply(action, operand, value);
-            if (!result || *result == operand.value)
-                return;
-            m_pendingUpdate.SetValue(row, column, *result);
-            changed = true;
-        });
-    } catch (const std::exception& error) {
-        Kernel::Framework::DebugOutput(
-            QStringLiteral("TableContentModel::setDataForSelection: %1").arg(error.what()));
-    }
-    if (changed) {
-        const int bottom = std::min(envelope->bottom, m_rowCountSubmitted - 1);
-        emit dataChanged(index(envelope->top, envelope->left), index(bottom, envelope->right),
-                         { ContentRole, ParameterIndexRole });
-    }
+    const TableContentUpdate edits
+        = CatchAtBoundary("TableContentModel::setDataForSelection", TableContentUpdate(),
+                          [&]() { return MultiEditSelection(*this).Edits(action, value); });
+    QueueEdits(edits, { ContentRole, ParameterIndexRole, TableContentFilterModel::DisplayTextRole });
 }
 
 // ---- Selection ------------------------------------------------------------------------------------------
 
-void TableContentModel::EmitSelectionRolesChanged(int top, int left, int bottom, int right)
+void TableContentModel::EmitSelectionRolesChanged(const QItemSelectionRange& range)
 {
-    top = std::max(top, 0);
-    left = std::max(left, 0);
-    bottom = std::min(bottom, rowCount() - 1);
-    right = std::min(right, columnCount() - 1);
-    if (top > bottom || left > right)
+    if (!range.isValid())
         return;
-    emit dataChanged(index(top, left), index(bottom, right), c_selectionRoles);
+    const int top = std::max(range.top(), 0);
+    const int left = std::max(range.left(), 0);
+    const int bottom = std::min(range.bottom(), rowCount() - 1);
+    const int right = std::min(range.right(), columnCount() - 1);
+    if (top <= bottom && left <= right)
+        emit dataChanged(index(top, left), index(bottom, right), c_selectionRoles);
 }
 
 void TableContentModel::onCurrentSelectedIndexChanged(QModelIndex prevSelectedIndex)
 {
-    if (prevSelectedIndex.isValid())
-        EmitSelectionRolesChanged(prevSelectedIndex.row(), prevSelectedIndex.column(),
-                                  prevSelectedIndex.row(), prevSelectedIndex.column());
-    const QModelIndex current = m_selectionModel->getCurrentSelectedIndex();
-    if (current.isValid())
-        EmitSelectionRolesChanged(current.row(), current.column(), current.row(), current.column());
+    EmitSelectionRolesChanged(QItemSelectionRange(prevSelectedIndex));
+    EmitSelectionRolesChanged(QItemSelectionRange(m_selectionModel->getCurrentSelectedIndex()));
 }
 
 void TableContentModel::onSelectionModelCurrentRegionChanged(QItemSelectionRange previousRegion)
 {
-    if (previousRegion.isValid())
-        EmitSelectionRolesChanged(previousRegion.top(), previousRegion.left(), previousRegion.bottom(),
-                                  previousRegion.right());
-    const QItemSelectionRange region = m_selectionModel->getCurrentRegion();
-    if (region.isValid())
-        EmitSelectionRolesChanged(region.top(), region.left(), region.bottom(), region.right());
+    EmitSelectionRolesChanged(previousRegion);
+    EmitSelectionRolesChanged(m_selectionModel->getCurrentRegion());
 }
 
 void TableContentModel::onSelectionChanged(QItemSelection selected, QItemSelection deselected)
 {
     for (const QItemSelection& selection : { selected, deselected }) {
         for (const QItemSelectionRange& range : selection)
-            EmitSelectionRolesChanged(range.top(), range.left(), range.bottom(), range.right());
+            EmitSelectionRolesChanged(range);
     }
     MarkSelectionParametersDirty();
 }
@@ -1268,19 +739,14 @@ void TableContentModel::onRowSelectionChanged(std::unordered_set<int> selected,
             bottom = std::max(bottom, row);
         }
     }
-    EmitSelectionRolesChanged(top, 0, bottom, columnCount() - 1);
+    if (bottom >= top && columnCount() > 0)
+        EmitSelectionRolesChanged(QItemSelectionRange(index(top, 0), index(bottom, columnCount() - 1)));
 }
 
 void TableContentModel::onRowExtraHighlightChanged(std::unordered_set<int> highlighted,
                                                    std::unordered_set<int> highlightToRemove)
 {
     onRowSelectionChanged(std::move(highlighted), std::move(highlightToRemove));
-}
-
-bool TableContentModel::IsOneRowSelected() const
-{
-    const auto envelope = m_selectionModel->GetSourceEnvelope();
-    return envelope && envelope->top == envelope->bottom;
 }
 
 void TableContentModel::MarkSelectionParametersDirty()
@@ -1291,78 +757,16 @@ void TableContentModel::MarkSelectionParametersDirty()
     emit selectionParametersSelectedIndicesChanged();
 }
 
-QStringList TableContentModel::getSelectionParametersNames() const
+const TableSelectionParameters& TableContentModel::SelectionParameters() const
 {
-    UpdateSelectionParameters();
-    return m_selectionParametersNames;
-}
-
-QVariantList TableContentModel::getSelectionParametersValues() const
-{
-    UpdateSelectionParameters();
-    return m_selectionParametersValues;
-}
-
-QList<int> TableContentModel::getSelectionParametersSelectedIndices() const
-{
-    UpdateSelectionParameters();
-    return m_selectionParametersSelectedIndices;
-}
-
-void TableContentModel::UpdateSelectionParameters() const
-{
-    if (!m_selectionParametersDirty)
-        return;
-    m_selectionParametersDirty = false;
-    m_selectionParametersNames.clear();
-    m_selectionParametersValues.clear();
-    m_selectionParametersSelectedIndices.clear();
-
-    // The names every selected editable cell can take (the intersection), in the first cell's order.
-    QStringList candidates;
-    QVariantList candidateValues;
-    QSet<QString> usedNames;
-    bool started = false;
-    bool exhausted = false;
-    try {
-        m_selectionModel->ForEachSelectedCell([&](int row, int column) {
-            if (exhausted || row >= m_rowCountSubmitted
-                || !m_columns[static_cast<std::size_t>(column)].editable)
-                return;
-            const TableCellContent& cell = EnsureData(row, column, ContentRequest::VisibleColumns);
-            if (!cell.editable)
-                return;
-            if (!started) {
-                if (!cell.content.isValid())
-                    return;
-                started = true;
-                candidates = cell.parametersNames;
-                candidateValues = cell.parametersValues;
-            } else {
-                for (int i = static_cast<int>(candidates.size()) - 1; i >= 0; --i) {
-                    if (!cell.parametersNames.contains(candidates[i])) {
-                        candidates.removeAt(i);
-                        if (i < candidateValues.size())
-                            candidateValues.removeAt(i);
-                    }
-                }
-            }
-            if (cell.parameterIndex != -1)
-                usedNames.insert(cell.parametersNames.value(cell.parameterIndex));
-            // Nothing can be added back to an empty intersection: a big selection stops here.
-            exhausted = candidates.isEmpty();
-        });
-    } catch (const std::exception& error) {
-        Kernel::Framework::DebugOutput(
-            QStringLiteral("TableContentModel selection parameters: %1").arg(error.what()));
-        return;
+    // A selection change only marks the parameters; a selection of 100,000 cells is walked once,
+    // when the multi-edit bar asks.
+    if (m_selectionParametersDirty) {
+        m_selectionParametersDirty = false;
+        CatchAtBoundary("TableContentModel selection parameters",
+                        [&]() { m_selectionParameters.Collect(*this); });
     }
-    m_selectionParametersNames = candidates;
-    m_selectionParametersValues = candidateValues;
-    for (int i = 0; i < candidates.size(); ++i) {
-        if (usedNames.contains(candidates[i]))
-            m_selectionParametersSelectedIndices.append(i);
-    }
+    return m_selectionParameters;
 }
 
 } // namespace Orvo::UI::UIComponents

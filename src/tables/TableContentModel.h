@@ -4,13 +4,20 @@
 #include "MultiEditActionSolver.h"
 #include "MultiEditSearchResult.h"
 #include "TableCellContent.h"
+#include "TableCellText.h"
+#include "TableColorPalette.h"
 #include "TableColumn.h"
+#include "TableColumnLayout.h"
 #include "TableColumnsModel.h"
 #include "TableContentFilterModel.h"
 #include "TableContentGrid.h"
 #include "TableContentUpdate.h"
+#include "TableNewRowLine.h"
+#include "TableRoleData.h"
 #include "TableSelectionModel.h"
+#include "TableSelectionParameters.h"
 #include "TableValueType.h"
+#include "framework/EventConnection.h"
 #include "tables/TableResultsValue.h"
 
 #include <QAbstractTableModel>
@@ -18,13 +25,11 @@
 #include <QItemSelection>
 #include <QStringList>
 #include <QVariantList>
-#include <limits>
+#include <QtQml/qqmlregistration.h>
 #include <unordered_set>
 #include <vector>
 
 namespace Orvo::UI::UIComponents {
-
-class TableNumberText;
 
 // The cell model behind every data table. It never reads the host's data itself: it asks its feeder
 // (the table panel controller) through the request signals, and the feeder answers synchronously by
@@ -33,6 +38,7 @@ class TableNumberText;
 class TableContentModel : public QAbstractTableModel
 {
     Q_OBJECT
+    QML_NAMED_ELEMENT(TableContentModel)
     Q_PROPERTY(bool empty READ isEmpty NOTIFY rowCountChanged)
     Q_PROPERTY(int rowCount READ getRowCount NOTIFY rowCountChanged)
     Q_PROPERTY(int columnCount READ getColumnCount NOTIFY columnCountChanged)
@@ -40,6 +46,7 @@ class TableContentModel : public QAbstractTableModel
     Q_PROPERTY(double horizontalHeaderHeight READ getHorizontalHeaderHeight WRITE setHorizontalHeaderHeight
                    NOTIFY horizontalHeaderHeightChanged)
     Q_PROPERTY(int newRowIndex READ newRowIndex)
+    Q_PROPERTY(int rowCountSubmitted READ rowCountSubmitted NOTIFY rowCountChanged)
     Q_PROPERTY(int allowAddNew READ getAllowAddNew WRITE setAllowAddNew NOTIFY allowAddNewChanged)
     Q_PROPERTY(int allowDelete READ getAllowDelete WRITE setAllowDelete NOTIFY allowDeleteChanged)
     Q_PROPERTY(int allowEdit READ getAllowEdit WRITE setAllowEdit NOTIFY allowEditChanged)
@@ -65,7 +72,7 @@ class TableContentModel : public QAbstractTableModel
 public:
     static constexpr int c_rowsCountBulk = GridContentIndex::c_rowsCountBulk;
     static constexpr int c_rowHeight = 24;
-    static constexpr int c_columnWidthStep = 64;
+    static constexpr int c_columnWidthStep = TableColumnLayout::c_widthStep;
     static constexpr int c_boolWithNamesMinWidth = 128;
 
     enum ContentType
@@ -145,14 +152,17 @@ public:
 
     // QAbstractItemModel
     int rowCount(const QModelIndex& parent = QModelIndex()) const override;
-    int columnCount(const QModelIndex& parent = QModelIndex()) const override;
+    int columnCount(const QModelIndex& parent = QModelIndex()) const override
+    {
+        return parent.isValid() ? 0 : m_layout.Count();
+    }
     QVariant data(const QModelIndex& index, int role = Qt::DisplayRole) const override;
     bool setData(const QModelIndex& index, const QVariant& value, int role = Qt::EditRole) override;
     QVariant headerData(int section, Qt::Orientation orientation, int role = Qt::DisplayRole) const override;
     Q_INVOKABLE bool setHeaderData(int section, Qt::Orientation orientation, const QVariant& value,
                                    int role = Qt::EditRole) override;
     Qt::ItemFlags flags(const QModelIndex& index) const override;
-    QHash<int, QByteArray> roleNames() const override;
+    QHash<int, QByteArray> roleNames() const override { return TableRoleData::Names(); }
 
     // Properties
     bool isEmpty() const { return m_rowCountSubmitted == 0; }
@@ -161,23 +171,26 @@ public:
     double getMinVerticalHeaderWidth() const { return 32.0; }
     double getHorizontalHeaderHeight() const { return m_horizontalHeaderHeight; }
     void setHorizontalHeaderHeight(double height);
-    int newRowIndex() const;
+    int newRowIndex() const { return m_allowAddNew ? m_rowCountSubmitted : -1; }
     bool getAllowAddNew() const { return m_allowAddNew; }
     void setAllowAddNew(bool allow);
     bool getAllowDelete() const { return m_allowDelete; }
     void setAllowDelete(bool allow);
     bool getAllowEdit() const { return m_allowEdit; }
     void setAllowEdit(bool allow);
-    int getColumnMaxWidth() const { return std::numeric_limits<std::int32_t>::max(); }
-    QStringList getSelectionParametersNames() const;
-    QVariantList getSelectionParametersValues() const;
-    QList<int> getSelectionParametersSelectedIndices() const;
+    int getColumnMaxWidth() const { return TableColumnLayout::c_maxWidth; }
+    QStringList getSelectionParametersNames() const { return SelectionParameters().Names(); }
+    QVariantList getSelectionParametersValues() const { return SelectionParameters().Values(); }
+    QList<int> getSelectionParametersSelectedIndices() const
+    {
+        return SelectionParameters().SelectedIndices();
+    }
 
     // Invokables
     Q_INVOKABLE void confirmUpdate();
     Q_INVOKABLE void setDataForSelection(int action, const QString& value);
-    Q_INVOKABLE int rowHeight(int row) const;
-    Q_INVOKABLE int columnWidth(int column) const;
+    Q_INVOKABLE int rowHeight(int) const { return c_rowHeight; }
+    Q_INVOKABLE int columnWidth(int column) const { return m_layout.LiveWidth(column); }
     Q_INVOKABLE void setColumnWidth(int column, int width);
     Q_INVOKABLE void moveColumn(int srcIndex, int dstIndex);
     Q_INVOKABLE void extendAllColumns();
@@ -187,15 +200,18 @@ public:
     Q_INVOKABLE void copyToClipboard();
     Q_INVOKABLE void pasteFromClipboard();
     Q_INVOKABLE bool clipboardContainsData() const;
-    Q_INVOKABLE bool isAllRequiredFilledForNewRow() const;
-    Q_INVOKABLE QString getColorLcid(int index) const;
+    Q_INVOKABLE bool isAllRequiredFilledForNewRow() const { return m_newRow.IsAllRequiredFilled(m_layout); }
+    Q_INVOKABLE QString getColorLcid(int index) const { return TableColorPalette::GetKey(index); }
 
     // Feeder side
     void AddColumns(std::vector<TableColumn>&& columns);
     void RemoveColumn(int index, bool notify = true);
     void UpdateColumnLabel(int index, const QString& label);
-    void SetAllColumns(std::vector<TableColumnModelItem>&& columns);
-    const std::vector<TableColumn>& GetColumns() const { return m_columns; }
+    void SetAllColumns(std::vector<TableColumnModelItem>&& columns)
+    {
+        m_columnsModel->SetAll(std::move(columns));
+    }
+    const std::vector<TableColumn>& GetColumns() const { return m_layout.Columns(); }
     int FindParentColumnIndex(int column) const;
     void SetRowCount(int count);
     void SetColumnsContent(int index, std::vector<TableColumnContent>&& contents);
@@ -205,36 +221,61 @@ public:
     // The cached cell; a default cell when the rows were never delivered. Never asks the feeder.
     TableCellContent GetCell(int row, int column) const;
     // The cell, asking the feeder for the rows first when they are missing.
-    const TableCellContent& GetFilledCell(int row, int column, ContentRequest request) const;
-    void SetColorNames(QHash<QString, QString> names);
-    bool IsOneRowSelected() const;
+    const TableCellContent& GetFilledCell(int row, int column, ContentRequest request) const
+    {
+        return EnsureData(row, column, request);
+    }
+    void SetColorNames(QHash<QString, QString> names) { m_colorNames = std::move(names); }
+    bool IsOneRowSelected() const
+    {
+        const auto envelope = m_selectionModel->GetSourceEnvelope();
+        return envelope && envelope->top == envelope->bottom;
+    }
     int rowCountSubmitted() const { return m_rowCountSubmitted; }
     QVariant DataForNewRow(int column, int role) const;
     bool SetDataForNewRow(int column, const QVariant& value, int role);
     const TableContentUpdate& GetPendingUpdate() const { return m_pendingUpdate; }
+    // The edit waiting for a cell; invalid when there is none.
+    QVariant PendingValue(int row, int column) const { return m_pendingUpdate.GetValue(row, column); }
+    // A record cell that takes edits: its column and the cell itself say so.
+    bool IsCellEditable(int row, int column) const;
     // The value type of a cell: the column's, or the cell's own when the column has none.
-    TableValueType GetValueType(const QModelIndex& index) const;
-    int FindColumnIndex(const QString& columnId) const;
+    TableValueType GetValueType(const QModelIndex& index) const
+    {
+        return GetValueType(index.row(), index.column());
+    }
+    TableValueType GetValueType(int row, int column) const;
+    int FindColumnIndex(const QString& columnId) const { return m_layout.FindById(columnId); }
+    // True while every column is removed and asked for again (a column was shown): the columns
+    // that go now come back at once.
+    bool IsRebuildingColumns() const { return m_rebuildingColumns; }
 
     TableColumnsModel* columnsModel() const { return m_columnsModel; }
     TableSelectionModel* selectionModel() const { return m_selectionModel; }
     TableContentFilterModel* contentFilterModel() const { return m_contentFilterModel; }
-    FilterBarModel* getFilterBarModel() const;
-    void setFilterBarModel(FilterBarModel* model);
+    FilterBarModel* getFilterBarModel() const { return m_contentFilterModel->getFilterBarModel(); }
+    void setFilterBarModel(FilterBarModel* model) { m_contentFilterModel->setFilterBarModel(model); }
     MultiEditActionSolver* getMultiEditActionSolver() const { return m_multiEditActionSolver; }
     MultiEditSearchResult* getMultiEditSearchResult() const { return m_multiEditSearchResult; }
 
     // A cell of a results table: the host's formatted value, bold when the host says so.
-    static TableCellContent CreateCellContent(const Kernel::Tables::TableResultsValue& value);
-    static QString ToString(const QVariant& value, TableValueType type);
-    static QString ToString(const QVariant& value, TableValueType type, const TableNumberText& numbers);
-    // The value a typed or pasted text stands for in a cell of that type; a null string when the
-    // text fits neither the type nor one of the parameter names.
+    static TableCellContent CreateCellContent(const Kernel::Tables::TableResultsValue& value)
+    {
+        TableCellContent cell;
+        cell.content = QString::fromStdWString(value.text);
+        cell.bold = value.bold;
+        return cell;
+    }
+    // The conversions of TableCellText with the host's current number settings.
+    static QString ToString(const QVariant& value, TableValueType type)
+    {
+        return TableCellText::ToString(value, type, TableNumberText());
+    }
     static QString CreateContentUpdateValue(const QString& text, TableValueType type,
-                                            const QStringList& parametersNames);
-    static QString CreateContentUpdateValue(const QString& text, TableValueType type,
-                                            const QStringList& parametersNames,
-                                            const TableNumberText& numbers);
+                                            const QStringList& parametersNames)
+    {
+        return TableCellText::CreateContentUpdateValue(text, type, parametersNames, TableNumberText());
+    }
 
 signals:
     void rowCountChanged();
@@ -271,49 +312,45 @@ private slots:
                                     std::unordered_set<int> highlightToRemove);
 
 private:
-    struct SelectionParameters;
-
     bool IsInTable(const QModelIndex& index) const;
     bool IsNewRow(int row) const { return m_allowAddNew && row == m_rowCountSubmitted; }
     const TableCellContent& EnsureData(int row, int column, ContentRequest request) const;
     void SetRowsToGrid(int index, std::vector<TableColumnContent>& contents);
-    void PrepareDeliveredCells(int column, std::vector<TableCellContent>& cells) const;
     void UpdateMinimumWidths(int firstRow, int count);
+    void WidenNamedStateColumns();
     QVariant CellData(const QModelIndex& index, int role) const;
-    QVariant SelectionData(int row, int column, int role) const;
-    QVariant HorizontalHeaderData(int section, int role) const;
-    QVariant CurrentValue(const TableCellContent& cell, int row, int column) const;
-    bool IsCellEditable(int row, int column) const;
-    void EmitSelectionRolesChanged(int top, int left, int bottom, int right);
-    void EmitContentChanged(int top, int left, int bottom, int right);
+    bool SetCellValue(int row, int column, QVariant value, int role);
+    void EmitSelectionRolesChanged(const QItemSelectionRange& range);
+    // Queues edits and repaints the rows they touch in one go.
+    void QueueEdits(const TableContentUpdate& edits, const QList<int>& roles);
     void RequestAllVisibleColumns();
     void RemoveAllColumns();
-    void UpdateSelectionParameters() const;
+    const TableSelectionParameters& SelectionParameters() const;
     void MarkSelectionParametersDirty();
-    std::vector<int> GetPasteTargetRows(int startRow, int lineCount, int& firstNewLine) const;
+    // Cells write numbers with the host's number format: a new format rewrites every shown text.
+    void FollowNumberFormat();
 
     double m_horizontalHeaderHeight = 24.0;
     bool m_allowAddNew = false;
     bool m_allowDelete = false;
     bool m_allowEdit = false;
     int m_rowCountSubmitted = 0;
-    std::vector<TableColumn> m_columns;
-    std::vector<int> m_columnWidths;
-    std::vector<bool> m_minimumWidthDecided;
+    TableColumnLayout m_layout;
     mutable TableContentGrid m_grid;
-    bool m_newRowHasData = false;
-    std::vector<QString> m_newRowValues;
+    TableNewRowLine m_newRow;
+    bool m_rebuildingColumns = false;
+    QStringList m_namedStateColumnsAfterFiltering; // column ids
+
     TableContentUpdate m_pendingUpdate;
     TableColumnsModel* m_columnsModel = nullptr;
     TableSelectionModel* m_selectionModel = nullptr;
     TableContentFilterModel* m_contentFilterModel = nullptr;
     MultiEditActionSolver* m_multiEditActionSolver = nullptr;
     MultiEditSearchResult* m_multiEditSearchResult = nullptr;
-    mutable QStringList m_selectionParametersNames;
-    mutable QVariantList m_selectionParametersValues;
-    mutable QList<int> m_selectionParametersSelectedIndices;
+    mutable TableSelectionParameters m_selectionParameters;
     mutable bool m_selectionParametersDirty = true;
     QHash<QString, QString> m_colorNames;
+    Kernel::Framework::EventConnection m_numberFormatConnection;
 };
 
 } // namespace Orvo::UI::UIComponents

@@ -1,6 +1,7 @@
 #include "TableContentUpdate.h"
 
 #include <algorithm>
+#include <iterator>
 
 namespace Orvo::UI::UIComponents {
 
@@ -52,6 +53,44 @@ void TableContentUpdate::Remove(int row, int column)
     rowIt->second.erase(column);
     if (rowIt->second.empty())
         rows.erase(rowIt);
+}
+
+template<typename Mapping> void TableContentUpdate::RenumberColumns(Mapping newColumn)
+{
+    if (IsEmpty())
+        return;
+    Rows& rows = Detach();
+    for (auto rowIt = rows.begin(); rowIt != rows.end();) {
+        RowValues renumbered;
+        for (auto& [column, value] : rowIt->second) {
+            const int target = newColumn(column);
+            if (target >= 0)
+                renumbered.emplace(target, std::move(value));
+        }
+        rowIt->second = std::move(renumbered);
+        rowIt = rowIt->second.empty() ? rows.erase(rowIt) : std::next(rowIt);
+    }
+}
+
+void TableContentUpdate::RemoveColumn(int column)
+{
+    RenumberColumns([column](int c) { return c == column ? -1 : (c > column ? c - 1 : c); });
+}
+
+void TableContentUpdate::MoveColumn(int srcIndex, int dstIndex)
+{
+    const int target = dstIndex > srcIndex ? dstIndex - 1 : dstIndex;
+    if (target == srcIndex)
+        return;
+    RenumberColumns([&](int c) {
+        if (c == srcIndex)
+            return target;
+        if (srcIndex < target && c > srcIndex && c <= target)
+            return c - 1;
+        if (target < srcIndex && c >= target && c < srcIndex)
+            return c + 1;
+        return c;
+    });
 }
 
 void TableContentUpdate::Clear()

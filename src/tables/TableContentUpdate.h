@@ -27,6 +27,10 @@ public:
     QVariant GetValue(int row, int column) const;
     bool Contains(int row, int column) const;
     void Remove(int row, int column);
+    // The values of a column that the table removes go, those of later columns move down one.
+    void RemoveColumn(int column);
+    // The values follow a column moved to stand before dstIndex, as the table's columns do.
+    void MoveColumn(int srcIndex, int dstIndex);
     void Clear();
     bool IsEmpty() const { return !m_rows || m_rows->empty(); }
     int MaxRow() const { return m_maxRow; }
@@ -34,6 +38,8 @@ public:
 
 private:
     Rows& Detach();
+    // Renumbers the columns of every row; a column mapped to -1 loses its values.
+    template<typename Mapping> void RenumberColumns(Mapping newColumn);
 
     std::shared_ptr<Rows> m_rows;
     int m_maxRow = -1;

@@ -2,6 +2,7 @@
 
 #include "framework/Calculator.h"
 
+#include <algorithm>
 #include <cmath>
 
 namespace Orvo::UI::UIComponents {
@@ -19,6 +20,18 @@ QString TableNumberText::ToEditText(double value) const
     locale.setNumberOptions(QLocale::OmitGroupSeparator);
     const QString text = locale.toString(value, 'f', QLocale::FloatingPointShortest);
     return value == 0.0 ? QStringLiteral("0") : text;
+}
+
+QString TableNumberText::ToFixedText(double value, int decimals) const
+{
+    if (!std::isfinite(value))
+        return m_helper.toEditValue(value);
+    QLocale locale = m_helper.locale();
+    locale.setNumberOptions(QLocale::OmitGroupSeparator);
+    // "-0.00" says nothing a "0.00" does not.
+    const QString text = locale.toString(value, 'f', std::clamp(decimals, 0, c_maximumDecimals));
+    const QString zero = locale.toString(0.0, 'f', std::clamp(decimals, 0, c_maximumDecimals));
+    return text == locale.negativeSign() + zero ? zero : text;
 }
 
 std::optional<double> TableNumberText::Parse(const QString& text)

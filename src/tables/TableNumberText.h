@@ -19,11 +19,15 @@ public:
         Exact, // every digit the double needs to read back the same (the clipboard's form)
     };
 
+    static constexpr int c_maximumDecimals = 15;
+
     explicit TableNumberText(Precision precision = Precision::EditDecimals);
 
     // The value of a typed number or expression; nullopt when the text is not one.
     static std::optional<double> Parse(const QString& text);
     QString ToEditText(double value) const;
+    // The value with exactly that many decimals, as a cell with a fixed precision shows it.
+    QString ToFixedText(double value, int decimals) const;
 
 private:
     BasicComponents::NumberHelper m_helper;

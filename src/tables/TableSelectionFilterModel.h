@@ -4,6 +4,7 @@
 #include <QModelIndex>
 #include <QObject>
 #include <QPointer>
+#include <QtQml/qqmlregistration.h>
 #include <memory>
 
 namespace Orvo::UI::UIComponents {
@@ -17,6 +18,7 @@ class TableSelectionModel;
 class TableSelectionFilterModel : public QObject
 {
     Q_OBJECT
+    QML_NAMED_ELEMENT(TableSelectionFilterModel)
     Q_PROPERTY(int regionCount READ getRegionCount NOTIFY regionCountChanged)
     Q_PROPERTY(
         QModelIndex currentSelectedIndex READ getCurrentSelectedIndex NOTIFY currentSelectedIndexChanged)

@@ -428,6 +428,22 @@ bool TableSelectionModel::IsCellInDraggedRegion(int row, int column) const
     return m_dragged && m_dragged->Contains(row, column);
 }
 
+QVariant TableSelectionModel::RoleData(int row, int column, int role) const
+{
+    switch (role) {
+    case TableContentModel::SelectedRole:
+        return IsCellSelected(row, column) || IsCellInDraggedRegion(row, column);
+    case TableContentModel::SelectedActiveRole:
+        return IsCurrent(row, column);
+    case TableContentModel::SelectedInRowRole:
+        return IsWholeRowSelected(row);
+    case TableContentModel::SelectedInRowExtraRole:
+        return IsRowExtraHighlighted(row);
+    default:
+        return {};
+    }
+}
+
 bool TableSelectionModel::IsWholeRowSelected(int row) const
 {
     if (m_wholeRows.count(row) > 0)

@@ -7,6 +7,7 @@
 #include <QModelIndex>
 #include <QObject>
 #include <QPointer>
+#include <QtQml/qqmlregistration.h>
 #include <memory>
 #include <optional>
 #include <set>
@@ -24,6 +25,7 @@ class TableContentModel;
 class TableSelectionModel : public QObject
 {
     Q_OBJECT
+    QML_NAMED_ELEMENT(TableSelectionModel)
     Q_PROPERTY(int regionCount READ getRegionCount NOTIFY regionCountChanged)
     Q_PROPERTY(
         QModelIndex currentSelectedIndex READ getCurrentSelectedIndex NOTIFY currentSelectedIndexChanged)
@@ -84,6 +86,8 @@ public:
     bool IsCellInDraggedRegion(int row, int column) const;
     bool IsWholeRowSelected(int row) const;
     bool IsRowExtraHighlighted(int row) const { return m_extraRows.count(row) > 0; }
+    // The content model's selection roles of a cell; invalid for any other role.
+    QVariant RoleData(int row, int column, int role) const;
     int FindRegion(int row, int column) const;
     bool IsCurrent(int row, int column) const { return row == m_currentRow && column == m_currentColumn; }
     int GetCurrentRow() const { return m_currentRow; }

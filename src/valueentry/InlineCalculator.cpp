@@ -13,6 +13,8 @@ namespace {
 constexpr double c_nan = std::numeric_limits<double>::quiet_NaN();
 // Whatever separators are configured, values are split here.
 const QString c_internalSeparator = QStringLiteral(";");
+// What starting a parse costs, in characters of expression that take as long to read.
+constexpr std::size_t c_costOfAParse = 16;
 
 } // namespace
 
@@ -110,10 +112,26 @@ void InlineCalculator::EvaluateMultiple()
             if (!separator.isEmpty())
                 text.replace(separator, c_internalSeparator, Qt::CaseSensitive);
         }
-        const QStringList parts = text.split(c_internalSeparator, Qt::SkipEmptyParts);
-        for (const QString& part : parts) {
+        // Evaluation runs on every keystroke, so what one text may cost is bounded: each part
+        // evaluated is charged its length and the fixed cost of a parse, and once the length the
+        // calculator reads in one expression is spent, further parts are counted but not evaluated
+        // (and so not valid). A long paste then costs about what the longest single value does.
+        std::size_t budget = Kernel::Framework::Calculator::c_maximumExpressionLength + c_costOfAParse;
+        const QStringView all(text);
+        for (qsizetype start = 0; start < all.size();) {
+            qsizetype end = all.indexOf(c_internalSeparator, start);
+            if (end < 0)
+                end = all.size();
+            const QStringView part = all.mid(start, end - start);
+            start = end + 1;
+            if (part.isEmpty())
+                continue;
+            const std::size_t cost = static_cast<std::size_t>(part.size()) + c_costOfAParse;
+            const bool evaluated = cost <= budget;
+            budget = evaluated ? budget - cost : 0;
             double value = c_nan;
-            valids.append(Kernel::Framework::Calculator::Evaluate(part.toStdWString(), value));
+            valids.append(evaluated
+                          && Kernel::Framework::Calculator::Evaluate(part.toString().toStdWString(), value));
             results.append(value);
         }
     }

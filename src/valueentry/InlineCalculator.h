@@ -4,6 +4,7 @@
 #include <QObject>
 #include <QString>
 #include <QStringList>
+#include <QtQml/qqmlregistration.h>
 
 namespace Orvo::UI::UIComponents {
 
@@ -13,6 +14,7 @@ namespace Orvo::UI::UIComponents {
 class InlineCalculator : public QObject
 {
     Q_OBJECT
+    QML_NAMED_ELEMENT(InlineCalculator)
     Q_PROPERTY(
         bool multipleEnabled READ isMultipleEnabled WRITE setMultipleEnabled NOTIFY multipleEnabledChanged)
     Q_PROPERTY(QStringList separators READ getSeparators WRITE setSeparators NOTIFY separatorsChanged)

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QIntValidator>
+#include <QtQml/qqmlregistration.h>
 
 namespace Orvo::UI::UIComponents {
 
@@ -9,6 +10,7 @@ namespace Orvo::UI::UIComponents {
 class IntegerValidator : public QIntValidator
 {
     Q_OBJECT
+    QML_NAMED_ELEMENT(IntegerValidator)
     Q_PROPERTY(bool expressionAllowed READ expressionAllowed WRITE setExpressionAllowed NOTIFY
                    expressionAllowedChanged)
 

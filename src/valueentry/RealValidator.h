@@ -2,6 +2,7 @@
 
 #include <QDoubleValidator>
 #include <QVariant>
+#include <QtQml/qqmlregistration.h>
 
 namespace Orvo::UI::UIComponents {
 
@@ -14,6 +15,7 @@ namespace Orvo::UI::UIComponents {
 class RealValidator : public QValidator
 {
     Q_OBJECT
+    QML_NAMED_ELEMENT(RealValidator)
     Q_PROPERTY(double bottom READ bottom WRITE setBottom NOTIFY bottomChanged)
     Q_PROPERTY(double top READ top WRITE setTop NOTIFY topChanged)
     Q_PROPERTY(QVariant decimals READ decimals WRITE setDecimals NOTIFY decimalsChanged)

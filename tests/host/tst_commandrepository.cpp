@@ -1,3 +1,4 @@
+#include "ClassicCLocale.h"
 #include "EventRecorder.h"
 #include "TestHost.h"
 #include "commands/CommandRepository.h"
@@ -7,6 +8,7 @@
 #include "events/CommandExecuted.h"
 #include "events/CommandShortcutChange.h"
 #include "events/CommandStateChange.h"
+#include "kernel/PathText.h"
 
 #include <QtTest>
 
@@ -72,9 +74,12 @@ private slots:
     void shouldLeaveOutBrokenCommandsAndKeepTheRest();
     void shouldKeepItsCommandsWhenADocumentCannotBeRead_data();
     void shouldKeepItsCommandsWhenADocumentCannotBeRead();
+    void shouldLoadAFileFromANonAsciiFolderInTheClassicCLocale();
     void shouldAnnounceStateChangesOnlyWhenTheyHappen();
     void shouldChangeShortcutsAtRunTime();
     void shouldEnableAndDisableAGroup();
+    void shouldFindAndMoveAShortcutHoweverItIsSpelled_data();
+    void shouldFindAndMoveAShortcutHoweverItIsSpelled();
     void processorShouldPostAndLogARunCommand();
     void processorShouldRefuseUnknownAndDisabledCommands();
     void catalogShouldInjectTheCommandServices();
@@ -178,6 +183,25 @@ void tst_CommandRepository::shouldKeepItsCommandsWhenADocumentCannotBeRead()
     QCOMPARE(states.Count(), 0u);
 }
 
+void tst_CommandRepository::shouldLoadAFileFromANonAsciiFolderInTheClassicCLocale()
+{
+    QTemporaryDir directory;
+    const QString folder = directory.filePath(QStringLiteral("Konfigur\u00E4tion"));
+    QVERIFY(QDir().mkpath(folder));
+    QFile file(folder + QStringLiteral("/Commands.xml"));
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    file.write(QString::fromStdWString(c_sampleCommands).toUtf8());
+    file.close();
+
+    const ClassicCLocale classicLocale;
+    QVERIFY(m_repository->LoadFile(Orvo::Kernel::Directories::ToPath(file.fileName())));
+    QCOMPARE(m_repository->GetCommands().size(), 3u);
+    QTest::ignoreMessage(QtDebugMsg,
+                         QRegularExpression("Cannot read the commands file .*Konfigur\u00E4tion"));
+    QVERIFY(
+        !m_repository->LoadFile(Orvo::Kernel::Directories::ToPath(folder + QStringLiteral("/Missing.xml"))));
+}
+
 void tst_CommandRepository::shouldAnnounceStateChangesOnlyWhenTheyHappen()
 {
     QVERIFY(m_repository->LoadString(c_sampleCommands));
@@ -213,6 +237,40 @@ void tst_CommandRepository::shouldChangeShortcutsAtRunTime()
     QVERIFY(!m_repository->SetShortcut(L"move", L"Ctrl+Nonsense"));
     QVERIFY(!m_repository->SetShortcut(L"unknown", L"Ctrl+U"));
     QVERIFY(m_repository->SetShortcut(L"move", L"Ctrl+M")); // unchanged: no event
+    QVERIFY(m_repository->SetShortcut(L"move", L"ctrl+m")); // the same key combination: no event
+    QCOMPARE(changes.Count(), 2u);
+}
+
+void tst_CommandRepository::shouldFindAndMoveAShortcutHoweverItIsSpelled_data()
+{
+    QTest::addColumn<QString>("spelling");
+    QTest::newRow("as stored") << "Ctrl+Shift+N";
+    QTest::newRow("lower case") << "ctrl+shift+n";
+    QTest::newRow("modifiers in another order") << "Shift+Ctrl+N";
+}
+
+void tst_CommandRepository::shouldFindAndMoveAShortcutHoweverItIsSpelled()
+{
+    QFETCH(QString, spelling);
+    QVERIFY(m_repository->LoadString(c_sampleCommands));
+    EventRecorder<CommandShortcutChange> changes(*m_eventbus);
+
+    // Given the shortcut of "node" in some spelling, its owner is found
+    QCOMPARE(m_repository->FindCommandsWithShortcut(spelling.toStdWString()),
+             std::vector<std::wstring>({ L"node" }));
+    QVERIFY(m_repository->FindCommandsWithShortcut(L"").empty());
+
+    // When it is moved to "move", "node" loses it and both changes are announced
+    QVERIFY(m_repository->MoveShortcut(L"move", spelling.toStdWString()));
+    QCOMPARE(Describe(m_repository->GetShortcuts()),
+             QStringList({ "move=Ctrl+Shift+N|mode=drag", "delete=Del|" }));
+    QCOMPARE(changes.Count(), 2u);
+    QCOMPARE(m_repository->FindCommandsWithShortcut(L"Ctrl+Shift+N"), std::vector<std::wstring>({ L"move" }));
+
+    // And nothing moves for an unknown command, an empty or an invalid shortcut
+    QVERIFY(!m_repository->MoveShortcut(L"unknown", L"Del"));
+    QVERIFY(!m_repository->MoveShortcut(L"node", L""));
+    QVERIFY(!m_repository->MoveShortcut(L"node", L"Ctrl+Nonsense"));
     QCOMPARE(changes.Count(), 2u);
 }
 

@@ -11,6 +11,8 @@ class tst_FramelessWindow : public QObject
 private slots:
     void shouldBeFramelessAndTransparent();
     void shouldReportPointerMovesAndReleasesItsItemsNeverSawPressed();
+    void shouldShowOnlyItsMaskPolygonsWhenMasked_data();
+    void shouldShowOnlyItsMaskPolygonsWhenMasked();
 };
 
 void tst_FramelessWindow::shouldBeFramelessAndTransparent()
@@ -43,6 +45,50 @@ void tst_FramelessWindow::shouldReportPointerMovesAndReleasesItsItemsNeverSawPre
     QCOMPARE(moved.last().at(0).toPointF(), QPointF(50, 60));
     QCOMPARE(released.count(), 1);
     QCOMPARE(released.last().at(1).toInt(), static_cast<int>(Qt::RightButton));
+}
+
+void tst_FramelessWindow::shouldShowOnlyItsMaskPolygonsWhenMasked_data()
+{
+    QTest::addColumn<FramelessWindow::MaskPolicy>("policy");
+    QTest::addColumn<bool>("masked");
+    // Tests run offscreen, where windows are always blended: the fallback is not needed there.
+    QTest::newRow("always") << FramelessWindow::MaskAlways << true;
+    QTest::newRow("only where transparency comes out black") << FramelessWindow::MaskWhenOpaque << false;
+    QTest::newRow("never") << FramelessWindow::MaskNever << false;
+}
+
+void tst_FramelessWindow::shouldShowOnlyItsMaskPolygonsWhenMasked()
+{
+    QFETCH(FramelessWindow::MaskPolicy, policy);
+    QFETCH(bool, masked);
+    FramelessWindow window;
+    window.setGeometry(100, 100, 200, 200);
+    window.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&window));
+    QVERIFY(window.isTranslucent());
+    QSignalSpy maskedChanges(&window, &FramelessWindow::maskedChanged);
+    QVERIFY(maskedChanges.isValid());
+
+    // Given a square given as points and a triangle given as QML point objects
+    window.setMaskPolicy(policy);
+    const QVariantList square { QPointF(10, 10), QPointF(50, 10), QPointF(50, 50), QPointF(10, 50) };
+    const QVariantList triangle { QVariantMap { { "x", 100 }, { "y", 100 } },
+                                  QVariantMap { { "x", 190 }, { "y", 100 } },
+                                  QVariantMap { { "x", 100 }, { "y", 190 } } };
+    window.setMaskPolygons({ square, triangle });
+
+    // Then the window shows only the polygons when masked, everything otherwise
+    QCOMPARE(window.isMasked(), masked);
+    QCOMPARE(maskedChanges.count(), masked ? 1 : 0);
+    QVERIFY(window.isShownAt(QPointF(30, 30)));
+    QVERIFY(window.isShownAt(QPointF(110, 110)));
+    QCOMPARE(window.isShownAt(QPointF(5, 150)), !masked);
+    QCOMPARE(window.isShownAt(QPointF(180, 180)), !masked);
+
+    // And an empty list of polygons lifts the mask
+    window.setMaskPolygons({});
+    QVERIFY(!window.isMasked());
+    QVERIFY(window.isShownAt(QPointF(5, 150)));
 }
 
 QTEST_MAIN(tst_FramelessWindow)

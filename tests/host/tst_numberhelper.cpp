@@ -1,9 +1,15 @@
+#include "EventRecorder.h"
+#include "TestHost.h"
+#include "basiccomponents/NumberFormatSettings.h"
 #include "basiccomponents/NumberHelper.h"
+#include "events/NumberFormatChanged.h"
+#include "framework/EventBus.h"
 
 #include <QtTest>
 
 #include <limits>
 
+using Orvo::UI::BasicComponents::NumberFormatSettings;
 using Orvo::UI::BasicComponents::NumberHelper;
 
 class tst_NumberHelper : public QObject
@@ -15,6 +21,7 @@ private slots:
     void shouldWriteEditText();
     void shouldReadEditText_data();
     void shouldReadEditText();
+    void shouldTakeTheHostSettingsAndAnnounceTheirChanges();
 };
 
 void tst_NumberHelper::shouldWriteEditText_data()
@@ -63,6 +70,10 @@ void tst_NumberHelper::shouldReadEditText_data()
                                                      << "1.5" << true << 1.5;
     QTest::newRow("blanks and exponent") << "en_US"
                                          << "  -2.5e3 " << true << -2500.0;
+    QTest::newRow("comma in English, as the calculator reads it") << "en_US"
+                                                                  << "1,5" << true << 1.5;
+    QTest::newRow("German group separator refused") << "de_DE"
+                                                    << "1.234,5" << false << 0.0;
     QTest::newRow("group separator refused") << "en_US"
                                              << "1,500.5" << false << 0.0;
     QTest::newRow("empty") << "en_US"
@@ -87,6 +98,30 @@ void tst_NumberHelper::shouldReadEditText()
     bool parsed = !ok;
     QCOMPARE(helper.fromEditValue(text, &parsed), expected);
     QCOMPARE(parsed, ok);
+}
+
+void tst_NumberHelper::shouldTakeTheHostSettingsAndAnnounceTheirChanges()
+{
+    TestHost host;
+    const auto catalog = host.StartServices();
+    const auto settings = catalog->Get<NumberFormatSettings>();
+    EventRecorder<Orvo::UI::Events::NumberFormatChanged> changes(
+        *catalog->Get<Orvo::Kernel::Framework::EventBus>());
+
+    settings->SetDecimalMark(NumberFormatSettings::DecimalMark::Comma);
+    settings->SetDecimalMark(NumberFormatSettings::DecimalMark::Comma);
+    settings->SetEditDecimals(2);
+    QCOMPARE(changes.Count(), 2u);
+    QCOMPARE(settings->GetDecimalMark(), NumberFormatSettings::DecimalMark::Comma);
+
+    const NumberHelper helper;
+    QCOMPARE(helper.decimalMark(), QStringLiteral(","));
+    QCOMPARE(helper.toEditValue(-1234.567), QStringLiteral("-1234,57"));
+    QCOMPARE(helper.fromEditValue(QStringLiteral("1.5")), 1.5);
+
+    settings->SetDecimalMark(NumberFormatSettings::DecimalMark::Point);
+    QCOMPARE(NumberHelper().toEditValue(-1234.567), QStringLiteral("-1234.57"));
+    QCOMPARE(changes.Count(), 3u);
 }
 
 QTEST_GUILESS_MAIN(tst_NumberHelper)

@@ -1,3 +1,4 @@
+#include "ClassicCLocale.h"
 #include "EventRecorder.h"
 #include "TestHost.h"
 #include "commands/CommandMenuHelper.h"
@@ -17,6 +18,7 @@ const QByteArray c_commands = R"(<commands>
   <command uuid="rotate" name="UI_COMMAND_ROTATE" icon="/opt/icons/rotate.svg" enabled="false"/>
   <command uuid="mirror" name="UI_COMMAND_MIRROR" visible="false"/>
   <command uuid="custom" name="UI_NOT_IN_THE_TABLE"/>
+  <command uuid="accented" name="UI_COMMAND_MOVE" icon="Images/Commands/déplacer.svg"/>
 </commands>)";
 
 } // namespace
@@ -30,6 +32,7 @@ private slots:
     void cleanup();
     void shouldDescribeCommands_data();
     void shouldDescribeCommands();
+    void shouldResolveANonAsciiIconInTheClassicCLocale();
     void shouldRunACommandWithItsParametersAndOrigin();
     void shouldNotRunADisabledOrUnknownCommand();
     void shouldAnnounceStateChanges();
@@ -89,6 +92,15 @@ void tst_CommandMenuHelper::shouldDescribeCommands()
                                                 : QUrl::fromLocalFile(m_host->FilePath(icon)).toString();
     QCOMPARE(helper.getCommandIcon(uuid), expectedIcon);
     QCOMPARE(helper.getCommandName(uuid), name);
+}
+
+void tst_CommandMenuHelper::shouldResolveANonAsciiIconInTheClassicCLocale()
+{
+    const ClassicCLocale classicLocale;
+    CommandMenuHelper helper;
+    QCOMPARE(helper.getCommandIcon(QStringLiteral("accented")),
+             QUrl::fromLocalFile(m_host->FilePath(QStringLiteral("Images/Commands/d\u00E9placer.svg")))
+                 .toString());
 }
 
 void tst_CommandMenuHelper::shouldRunACommandWithItsParametersAndOrigin()

@@ -1,7 +1,9 @@
+#include "ClassicCLocale.h"
 #include "TestHost.h"
 #include "events/ShowMarkingMenuEvent.h"
 #include "framework/EventBus.h"
 #include "framework/OnIdleEvent.h"
+#include "kernel/PathText.h"
 #include "markingmenu/MarkingMenu.h"
 #include "qtextensions/ViewInputArea.h"
 
@@ -58,6 +60,7 @@ private slots:
     void cleanup();
     void loadConfiguration_data();
     void loadConfiguration();
+    void shouldLoadTheShippedMenuOfANonAsciiInstallationInTheClassicCLocale();
     void showIdleHide_data();
     void showIdleHide();
     void shouldIgnoreShowRequestsWhileNoSectionIsVisible_data();
@@ -153,6 +156,35 @@ void tst_MarkingMenu::loadConfiguration()
 
     QCOMPARE(Describe(menu.mmConfig()), expected);
     QCOMPARE(configChanged.count(), 0); // QML reads the configuration when the menu opens
+}
+
+void tst_MarkingMenu::shouldLoadTheShippedMenuOfANonAsciiInstallationInTheClassicCLocale()
+{
+    using namespace Orvo::Kernel;
+    // Given an application installed in a folder with an accented name, whose shipped menu names
+    // an icon with one, run in the "C" locale of a service
+    const QString installation = m_host->FilePath(QStringLiteral("D\u00E9veloppement"));
+    const QString icon = QStringLiteral("Images/mod\u00E8le.svg");
+    QString shipped = QString::fromUtf8(c_shippedXml);
+    shipped.replace(QStringLiteral("Images/model.svg"), icon);
+    QVERIFY(QDir().mkpath(installation + QStringLiteral("/Configuration")));
+    QFile file(installation + QStringLiteral("/Configuration/MarkingMenu.xml"));
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    file.write(shipped.toUtf8());
+    file.close();
+    Directories::SetDirectory(Directories::DirectoryType::ApplicationDirectory,
+                              Directories::ToPath(installation));
+    const ClassicCLocale classicLocale;
+
+    // When the controller loads its configuration
+    MarkingMenu menu;
+    menu.loadConfiguration(c_userXml);
+
+    // Then the shipped menu is there, with the user's choices and the icon's image source
+    QCOMPARE(menu.mmConfig()->leftSection()->sectionVisible(), true);
+    QCOMPARE(menu.mmConfig()->leftSection()->commandUuids().first(), QStringLiteral("move"));
+    QCOMPARE(menu.mmConfig()->topSection()->icon(),
+             QUrl::fromLocalFile(installation + "/" + icon).toString());
 }
 
 void tst_MarkingMenu::showIdleHide_data()

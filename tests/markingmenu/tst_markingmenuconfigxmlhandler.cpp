@@ -1,3 +1,4 @@
+#include "ClassicCLocale.h"
 #include "TestHost.h"
 #include "framework/XMLHandler.h"
 #include "markingmenu/MarkingMenuConfig.h"
@@ -91,6 +92,8 @@ private slots:
     void shouldWriteTheUserVariantOfADefaultConfiguration();
     void shouldResolveIconsAndWriteThemBackRelative();
     void shouldRoundTripTheUserVariantKeepingGaps();
+    void shouldReadNonAsciiIconPathsInTheClassicCLocale_data();
+    void shouldReadNonAsciiIconPathsInTheClassicCLocale();
     void fullReader_data();
     void fullReader();
     void userReader_data();
@@ -180,6 +183,35 @@ void tst_MarkingMenuConfigXmlHandler::shouldRoundTripTheUserVariantKeepingGaps()
     MarkingMenuConfig readBack;
     MarkingMenuConfigXmlHandler::FromUserConfigXml(readBack, written.toStdWString());
     QCOMPARE(UserState(readBack), UserState(config));
+}
+
+void tst_MarkingMenuConfigXmlHandler::shouldReadNonAsciiIconPathsInTheClassicCLocale_data()
+{
+    QTest::addColumn<QString>("icon");
+    QTest::newRow("accented, relative") << QStringLiteral("images/\u00E9.svg");
+    QTest::newRow("cyrillic folder, relative")
+        << QStringLiteral("\u0418\u043A\u043E\u043D\u043A\u0438/ring.svg");
+    QTest::newRow("accented, absolute") << QStringLiteral("/opt/ic\u00F4nes/model.svg");
+}
+
+void tst_MarkingMenuConfigXmlHandler::shouldReadNonAsciiIconPathsInTheClassicCLocale()
+{
+    QFETCH(QString, icon);
+    const ClassicCLocale classicLocale;
+
+    // Given a shipped menu whose top section has a non-ASCII icon path, read in the "C" locale
+    const QString xml = QStringLiteral("<marking_menu><section id=\"TOP\" label=\"Model\" lcid=\"UI_M\" "
+                                       "icon=\"%1\"/></marking_menu>")
+                            .arg(icon);
+    std::unique_ptr<MarkingMenuConfig> config;
+    QCOMPARE(Classify([&]() { config = ReadFull(xml); }), Outcome::Read);
+
+    // Then the icon is the file's image source, and it is written back as the same path
+    const QString file = icon.startsWith(QLatin1Char('/')) ? icon : m_host->FilePath(icon);
+    QCOMPARE(config->topSection()->icon(), QUrl::fromLocalFile(file).toString());
+    QCOMPARE(config->topSection()->label(), QStringLiteral("Model"));
+    QVERIFY(QString::fromStdWString(MarkingMenuConfigXmlHandler::ToXml(*config))
+                .contains(QStringLiteral("icon=\"%1\"").arg(icon)));
 }
 
 void tst_MarkingMenuConfigXmlHandler::fullReader_data()

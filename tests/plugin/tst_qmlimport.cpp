@@ -1,4 +1,5 @@
 #include <QDir>
+#include <QFile>
 #include <QPluginLoader>
 #include <QQmlComponent>
 #include <QQmlEngine>
@@ -31,13 +32,27 @@ class tst_QmlImport : public QObject
     }
 
 private slots:
+    void shouldNotFindComponentLibraryWithoutInitializeEngine_data()
+    {
+        QTest::addColumn<QString>("module");
+        QTest::newRow("singleton module") << QStringLiteral("UIComponents.Constants");
+        QTest::newRow("module of documents") << QStringLiteral("UIComponents.Tables");
+    }
+
     void shouldNotFindComponentLibraryWithoutInitializeEngine()
     {
+        QFETCH(QString, module);
+        // The plugin is loaded, so its resources are in the process: only the import path is missing.
+        QPluginLoader loader(qEnvironmentVariable("QTC_PLUGIN_FILE"));
+        QVERIFY2(loader.load(), qPrintable(loader.errorString()));
+        QVERIFY(QFile::exists(QStringLiteral(":/")
+                              + QString(module).replace(QLatin1Char('.'), QLatin1Char('/'))
+                              + QStringLiteral("/qmldir")));
         auto engine = CreateEngine();
         QString errors;
-        auto object = Create(*engine, "import UIComponents.Constants\nimport QtQml\nQtObject {}", &errors);
+        auto object = Create(*engine, "import " + module.toUtf8() + "\nimport QtQml\nQtObject {}", &errors);
         QVERIFY(!object);
-        QVERIFY2(errors.contains(QLatin1String("UIComponents.Constants")), qPrintable(errors));
+        QVERIFY2(errors.contains(module), qPrintable(errors));
     }
 
     void shouldFindComponentLibraryOnceTheModuleIsImported()

@@ -1,8 +1,8 @@
 #include "PropertiesTestSupport.h"
+#include "model/ModelGenerator.h"
 #include "properties/PropertiesModel.h"
 #include "properties/PropertiesProxyModel.h"
 #include "properties/PropertiesRoles.h"
-#include "properties/SampleStructure.h"
 #include "properties/StructuralModel.h"
 #include "properties/StructuralObjectTypes.h"
 
@@ -65,7 +65,8 @@ private slots:
     void refusedEditKeepsEveryValue_data();
     void refusedEditKeepsEveryValue();
     void resetActionRestoresDefaults();
-    void namedParameterWritesItsValue();
+    void namedParameterWritesItsValueAndGrade_data();
+    void namedParameterWritesItsValueAndGrade();
     void valuesThatBecomeMixedHideTheirRowAndHeader();
     void collapsedFlagsFollowTheProxysList();
     void unknownObjectsAreLeftOut();
@@ -82,7 +83,7 @@ private:
 void tst_PropertiesModel::init()
 {
     m_structure = std::make_shared<StructuralModel>();
-    SampleStructure::Fill(*m_structure);
+    FillSampleFrame(*m_structure);
     m_model = std::make_unique<PropertiesModel>();
     m_collapsed = std::make_shared<std::vector<QString>>();
     m_proxy = std::make_unique<PropertiesProxyModel>(nullptr, m_collapsed);
@@ -108,49 +109,34 @@ void tst_PropertiesModel::listsCategoriesThenNestedSubcategories_data()
     QTest::addColumn<QString>("type");
     QTest::addColumn<QStringList>("expected");
 
-    QTest::newRow("load case: a subcategory after its category's own properties")
-        << StructuralObjectTypes::c_loadCase
-        << QStringList { "C:UI_PROPERTIES_CATEGORY_GENERAL",
-                         "general.number",
-                         "general.name",
-                         "general.comment",
-                         "C:UI_PROPERTIES_CATEGORY_ANALYSIS",
-                         "loadCase.actionCategory",
-                         "loadCase.active",
-                         "loadCase.partialFactor",
-                         "S1:Self-weight",
-                         "loadCase.selfWeight",
-                         "loadCase.factorX",
-                         "loadCase.factorY",
-                         "loadCase.factorZ",
-                         "C:UI_PROPERTIES_CATEGORY_DISPLAY",
-                         "display.color",
-                         "display.showLabel" };
-    QTest::newRow("node: nested subcategories deepen the level")
+    QTest::newRow("node: a subcategory below its category")
         << StructuralObjectTypes::c_node
         << QStringList { "C:UI_PROPERTIES_CATEGORY_GENERAL",
                          "general.number",
                          "general.name",
-                         "general.comment",
                          "C:UI_PROPERTIES_CATEGORY_GEOMETRY",
-                         "node.coordinateSystem",
                          "S1:Coordinates",
                          "node.x",
                          "node.y",
-                         "node.z",
-                         "C:UI_PROPERTIES_CATEGORY_SUPPORT",
-                         "node.supportType",
-                         "S1:Springs",
-                         "node.springX",
-                         "node.springY",
-                         "node.springZ",
-                         "S2:Rotational springs",
-                         "node.springRotX",
-                         "node.springRotY",
-                         "node.springRotZ",
-                         "C:UI_PROPERTIES_CATEGORY_DISPLAY",
-                         "display.color",
-                         "display.showLabel" };
+                         "node.z" };
+    QTest::newRow("I-section: nested subcategories deepen the level, other shapes' dimensions left out")
+        << StructuralObjectTypes::c_crossSection
+        << QStringList { "C:UI_PROPERTIES_CATEGORY_GENERAL",
+                         "general.number",
+                         "general.name",
+                         "C:UI_PROPERTIES_CATEGORY_CROSS_SECTION",
+                         "section.shape",
+                         "S1:Dimensions",
+                         "section.height",
+                         "section.width",
+                         "S2:Plates",
+                         "section.flangeThickness",
+                         "section.webThickness",
+                         "S1:Section values",
+                         "section.area",
+                         "section.iy",
+                         "section.iz",
+                         "section.torsion" };
 }
 
 void tst_PropertiesModel::listsCategoriesThenNestedSubcategories()
@@ -165,86 +151,94 @@ void tst_PropertiesModel::listsCategoriesThenNestedSubcategories()
 
 void tst_PropertiesModel::mixedPropertyListsItsDistinctValues()
 {
-    m_model->ShowObjects(m_structure, ObjectsOfType(*m_structure, StructuralObjectTypes::c_member));
-    const QModelIndex material = m_model->index(m_model->FindRow(UuidOf("member.material")));
+    const auto members = ObjectsOfType(*m_structure, StructuralObjectTypes::c_member);
+    m_structure->Assign(members[0], "member.startRelease", std::int32_t { 1 });
+    m_model->ShowObjects(m_structure, members);
     const QVariantMap resetAction { { MixedValues::c_actionKey, PropertiesModel::ResetToDefaultAction } };
 
-    QVERIFY(material.data(mixedRole).toBool());
-    QCOMPARE(material.data(mixedValuesRole).toList(), (QVariantList { "S235", "S355", resetAction }));
-    QCOMPARE(material.data(listIndexRole).toInt(), -1);
-    QCOMPARE(material.data(allValuesRole).toStringList(),
-             (QStringList { "S235", "S355", "C30/37", "GL24h" }));
-    QVERIFY(material.data(hasActionRole).toBool());
+    const QModelIndex release = m_model->index(m_model->FindRow(UuidOf("member.startRelease")));
+    QVERIFY(release.data(mixedRole).toBool());
+    QCOMPARE(release.data(mixedValuesRole).toList(),
+             (QVariantList { "Hinge (My, Mz)", "Rigid", resetAction }));
+    QCOMPARE(release.data(listIndexRole).toInt(), -1);
+    QCOMPARE(release.data(allValuesRole).toStringList().size(), 5);
+    QVERIFY(release.data(hasActionRole).toBool());
 
-    const QModelIndex yield = m_model->index(m_model->FindRow(UuidOf("member.yieldStrength")));
-    QCOMPARE(yield.data(selectedParametersIndicesRole).toList(), (QVariantList { 0, 2 }));
+    // A reference has no default to go back to.
+    const QModelIndex section = m_model->index(m_model->FindRow(UuidOf("member.section")));
+    QCOMPARE(section.data(mixedValuesRole).toList(), (QVariantList { 1, 2 }));
+    QVERIFY(!section.data(hasActionRole).toBool());
+
+    m_model->ShowObjects(m_structure,
+                         { ObjectsOfType(*m_structure, StructuralObjectTypes::c_material).front() });
+    const QModelIndex yield = m_model->index(m_model->FindRow(UuidOf("material.yieldStrength")));
+    QCOMPARE(yield.data(selectedParametersIndicesRole).toList(), (QVariantList { 2 }));
     QCOMPARE(yield.data(parametersNamesRole).toStringList(),
              (QStringList { "S235", "S275", "S355", "S460" }));
-
-    const QModelIndex modulus = m_model->index(m_model->FindRow(UuidOf("member.elasticModulus")));
-    QVERIFY(!modulus.data(mixedRole).toBool());
-    QCOMPARE(modulus.data(mixedValuesRole).toList(), QVariantList { 210.0 });
-    QCOMPARE(modulus.data(highlightStateRole).toInt(), 0);
-    QVERIFY(!modulus.data(hasActionRole).toBool());
 }
 
 void tst_PropertiesModel::sharedPropertiesOnlyForMixedKinds()
 {
-    const ObjectId node = ObjectsOfType(*m_structure, StructuralObjectTypes::c_node).front();
-    const ObjectId member = ObjectsOfType(*m_structure, StructuralObjectTypes::c_member).front();
+    const ObjectId material = ObjectsOfType(*m_structure, StructuralObjectTypes::c_material).front();
+    const ObjectId loadCase = ObjectsOfType(*m_structure, StructuralObjectTypes::c_loadCase).front();
 
-    m_model->ShowObjects(m_structure, { node, member });
+    m_model->ShowObjects(m_structure, { material, loadCase });
 
     QCOMPARE(Layout(*m_model),
              (QStringList { "C:UI_PROPERTIES_CATEGORY_GENERAL", "general.number", "general.name",
-                            "general.comment", "C:UI_PROPERTIES_CATEGORY_DISPLAY", "display.color",
-                            "display.showLabel" }));
+                            "C:UI_PROPERTIES_CATEGORY_DISPLAY", "display.color" }));
     const QModelIndex colour = m_model->index(m_model->FindRow(UuidOf("display.color")));
-    QCOMPARE(colour.data(mixedValuesRole).toList(), (QVariantList { "#1f6feb", "#2b3445" }));
+    QCOMPARE(colour.data(mixedValuesRole).toList(), (QVariantList { "#2b3445", "#b7791f" }));
 }
 
 void tst_PropertiesModel::editThroughProxyReachesEverySelectedObject_data()
 {
+    QTest::addColumn<QString>("type");
     QTest::addColumn<QString>("key");
     QTest::addColumn<int>("role");
     QTest::addColumn<QVariant>("input");
     QTest::addColumn<QString>("stored"); // what every object holds afterwards
     QTest::addColumn<QVariant>("shown"); // the row's value afterwards
 
-    QTest::newRow("real") << "member.height" << int(valueRole) << QVariant(450.5) << "450.5"
+    const QString section = StructuralObjectTypes::c_crossSection;
+    const QString member = StructuralObjectTypes::c_member;
+    const QString loadCase = StructuralObjectTypes::c_loadCase;
+    QTest::newRow("real") << section << "section.height" << int(valueRole) << QVariant(450.5) << "450.5"
                           << QVariant(450.5);
     QTest::newRow("real typed as text")
-        << "member.height" << int(valueRole) << QVariant("612") << "612" << QVariant(612.0);
-    QTest::newRow("list by index") << "member.material" << int(listIndexRole) << QVariant(2) << "2"
-                                   << QVariant("C30/37");
-    QTest::newRow("list by text") << "member.material" << int(valueRole) << QVariant("GL24h") << "3"
-                                  << QVariant("GL24h");
-    QTest::newRow("bool") << "member.hingeAtStart" << int(valueRole) << QVariant(true) << "true"
+        << section << "section.height" << int(valueRole) << QVariant("612") << "612" << QVariant(612.0);
+    QTest::newRow("list by index") << member << "member.startRelease" << int(listIndexRole) << QVariant(2)
+                                   << "2" << QVariant("Hinge about y (My)");
+    QTest::newRow("list by text") << member << "member.endRelease" << int(valueRole)
+                                  << QVariant("Hinge (My, Mz)") << "1" << QVariant("Hinge (My, Mz)");
+    QTest::newRow("bool") << loadCase << "loadCase.selfWeight" << int(valueRole) << QVariant(true) << "true"
                           << QVariant(true);
-    QTest::newRow("colour by name") << "display.color" << int(Qt::EditRole) << QVariant("#ff0000")
+    QTest::newRow("colour by name") << loadCase << "display.color" << int(Qt::EditRole) << QVariant("#ff0000")
                                     << "#ff0000" << QVariant(QColor(Qt::red));
-    QTest::newRow("string") << "general.comment" << int(valueRole) << QVariant("checked") << "\"checked\""
-                            << QVariant("checked");
+    QTest::newRow("string parsed by the host")
+        << StructuralObjectTypes::c_combination << "combination.definition" << int(valueRole)
+        << QVariant("1.35*LC1 + LC3") << "\"1.35×LC1 + 1×LC3\"" << QVariant("1.35×LC1 + 1×LC3");
     QTest::newRow("integer given for a real")
-        << "member.rotation" << int(valueRole) << QVariant(-90) << "-90" << QVariant(-90.0);
+        << member << "member.rotation" << int(valueRole) << QVariant(-90) << "-90" << QVariant(-90.0);
 }
 
 void tst_PropertiesModel::editThroughProxyReachesEverySelectedObject()
 {
+    QFETCH(QString, type);
     QFETCH(QString, key);
     QFETCH(int, role);
     QFETCH(QVariant, input);
     QFETCH(QString, stored);
     QFETCH(QVariant, shown);
-    const auto members = ObjectsOfType(*m_structure, StructuralObjectTypes::c_member);
-    m_model->ShowObjects(m_structure, members);
+    const auto objects = ObjectsOfType(*m_structure, type);
+    m_model->ShowObjects(m_structure, objects);
     const QModelIndex index = ProxyIndexOf(*m_proxy, key);
     QVERIFY(index.isValid());
 
     QVERIFY(m_proxy->setData(index, input, role));
 
-    for (ObjectId id : members)
-        QCOMPARE(DescribeValue(m_structure->FindObject(id)->Value(key)), stored);
+    for (ObjectId id : objects)
+        QCOMPARE(DescribeValue(*m_structure->Value(id, key)), stored);
     const QModelIndex after = ProxyIndexOf(*m_proxy, key);
     QVERIFY(!after.data(mixedRole).toBool());
     QCOMPARE(after.data(valueRole), shown);
@@ -252,83 +246,107 @@ void tst_PropertiesModel::editThroughProxyReachesEverySelectedObject()
 
 void tst_PropertiesModel::refusedEditKeepsEveryValue_data()
 {
+    QTest::addColumn<QString>("type");
     QTest::addColumn<QString>("key");
     QTest::addColumn<QVariant>("input");
     QTest::addColumn<QString>("warning");
     QTest::addColumn<bool>("hostRefuses");
 
-    QTest::newRow("read-only") << "general.number" << QVariant(7) << "is read-only" << false;
+    const QString section = StructuralObjectTypes::c_crossSection;
+    const QString member = StructuralObjectTypes::c_member;
+    QTest::newRow("read-only") << member << "general.number" << QVariant(7) << "is read-only" << false;
     QTest::newRow("below the minimum")
-        << "member.height" << QVariant(0.5) << "0.5 is below the minimum 1" << true;
+        << section << "section.height" << QVariant(0.05) << "BELOW_MINIMUM" << true;
     QTest::newRow("above the maximum")
-        << "member.rotation" << QVariant(270) << "270 is above the maximum 180" << true;
-    QTest::newRow("not a number") << "member.height" << QVariant("tall") << "is no real value" << false;
-    QTest::newRow("not finite") << "member.height" << QVariant(qInf()) << "inf is not a finite number"
-                                << true;
-    QTest::newRow("no such choice") << "member.material" << QVariant(9) << "is no list value" << false;
+        << member << "member.rotation" << QVariant(400) << "ABOVE_MAXIMUM" << true;
+    QTest::newRow("not a number") << section << "section.height" << QVariant("tall") << "is no real value"
+                                  << false;
+    QTest::newRow("not finite") << section << "section.height" << QVariant(qInf()) << "NOT_A_NUMBER" << true;
+    QTest::newRow("no such choice") << member << "member.startRelease" << QVariant(9) << "is no list value"
+                                    << false;
     QTest::newRow("fractional integer")
-        << "member.startNode" << QVariant(2.5) << "is no integer value" << false;
-    QTest::newRow("not a colour") << "display.color" << QVariant("sunset") << "is no colour value" << false;
-    QTest::newRow("no value") << "member.height" << QVariant() << "is no real value" << false;
+        << member << "member.startNode" << QVariant(2.5) << "is no integer value" << false;
+    QTest::newRow("no such node") << member << "member.endNode" << QVariant(99) << "NO_NODE" << true;
+    QTest::newRow("not a colour") << StructuralObjectTypes::c_loadCase << "display.color"
+                                  << QVariant("sunset") << "is no colour value" << false;
+    QTest::newRow("no value") << section << "section.height" << QVariant() << "is no real value" << false;
 }
 
 void tst_PropertiesModel::refusedEditKeepsEveryValue()
 {
+    QFETCH(QString, type);
     QFETCH(QString, key);
     QFETCH(QVariant, input);
     QFETCH(QString, warning);
     QFETCH(bool, hostRefuses);
-    const auto members = ObjectsOfType(*m_structure, StructuralObjectTypes::c_member);
-    m_model->ShowObjects(m_structure, members);
+    const auto objects = ObjectsOfType(*m_structure, type);
+    m_model->ShowObjects(m_structure, objects);
     std::vector<PropertyValue> before;
-    for (ObjectId id : members)
-        before.push_back(m_structure->FindObject(id)->Value(key));
+    for (ObjectId id : objects)
+        before.push_back(*m_structure->Value(id, key));
     QSignalSpy changed(m_model.get(), &QAbstractItemModel::dataChanged);
     QVERIFY(changed.isValid());
+    QSignalSpy rejected(m_model.get(), &PropertiesModel::valueRejected);
 
     // The host explains a refused value once per object in its debug output; the model warns
     // once about a value it cannot read or a property it may not write.
     const QRegularExpression message(QRegularExpression::escape(warning));
     if (hostRefuses) {
-        for (std::size_t i = 0; i < members.size(); ++i)
+        for (std::size_t i = 0; i < objects.size(); ++i)
             QTest::ignoreMessage(QtDebugMsg, message);
     } else {
         QTest::ignoreMessage(QtWarningMsg, message);
     }
     QVERIFY(!m_model->SetValue(input, UuidOf(key), PropertiesModel::NoAction));
 
-    for (std::size_t i = 0; i < members.size(); ++i)
-        QCOMPARE(m_structure->FindObject(members[i])->Value(key), before[i]);
+    for (std::size_t i = 0; i < objects.size(); ++i)
+        QCOMPARE(*m_structure->Value(objects[i], key), before[i]);
     QCOMPARE(changed.count(), 0);
+    // What the host refused, it explains to the user.
+    QCOMPARE(rejected.count(), hostRefuses ? 1 : 0);
 }
 
 void tst_PropertiesModel::resetActionRestoresDefaults()
 {
-    const auto members = ObjectsOfType(*m_structure, StructuralObjectTypes::c_member);
-    m_model->ShowObjects(m_structure, members);
-    const QString uuid = UuidOf("member.height");
+    const auto sections = ObjectsOfType(*m_structure, StructuralObjectTypes::c_crossSection);
+    m_model->ShowObjects(m_structure, sections);
+    const QString uuid = UuidOf("section.height");
 
     QVERIFY(m_model->SetValue(QVariant(), uuid, PropertiesModel::ResetToDefaultAction));
 
-    for (ObjectId id : members)
-        QCOMPARE(std::get<double>(m_structure->FindObject(id)->Value("member.height")), 300.0);
+    for (ObjectId id : sections)
+        QCOMPARE(std::get<double>(*m_structure->Value(id, "section.height")), 300.0);
     const QModelIndex height = m_model->index(m_model->FindRow(uuid));
     QCOMPARE(height.data(highlightStateRole).toInt(), 0);
     QCOMPARE(height.data(mixedValuesRole).toList(), QVariantList { 300.0 });
 }
 
-void tst_PropertiesModel::namedParameterWritesItsValue()
+void tst_PropertiesModel::namedParameterWritesItsValueAndGrade_data()
 {
-    const auto members = ObjectsOfType(*m_structure, StructuralObjectTypes::c_member);
-    m_model->ShowObjects(m_structure, members);
-    const QModelIndex yield = ProxyIndexOf(*m_proxy, "member.yieldStrength");
+    QTest::addColumn<int>("parameter");
+    QTest::addColumn<double>("strength");
+    QTest::addColumn<QString>("grade");
 
-    QVERIFY(m_proxy->setData(yield, 3, selectedParametersIndicesRole));
+    QTest::newRow("S235") << 0 << 235.0 << "S235";
+    QTest::newRow("S460") << 3 << 460.0 << "S460";
+}
 
-    for (ObjectId id : members)
-        QCOMPARE(std::get<double>(m_structure->FindObject(id)->Value("member.yieldStrength")), 460.0);
-    QCOMPARE(ProxyIndexOf(*m_proxy, "member.yieldStrength").data(selectedParametersIndicesRole).toList(),
-             QVariantList { 3 });
+void tst_PropertiesModel::namedParameterWritesItsValueAndGrade()
+{
+    QFETCH(int, parameter);
+    QFETCH(double, strength);
+    QFETCH(QString, grade);
+    const ObjectId steel = ObjectsOfType(*m_structure, StructuralObjectTypes::c_material).front();
+    m_model->ShowObjects(m_structure, { steel });
+    const QModelIndex yield = ProxyIndexOf(*m_proxy, "material.yieldStrength");
+
+    QVERIFY(m_proxy->setData(yield, parameter, selectedParametersIndicesRole));
+
+    QCOMPARE(std::get<double>(*m_structure->Value(steel, "material.yieldStrength")), strength);
+    QCOMPARE(ProxyIndexOf(*m_proxy, "material.yieldStrength").data(selectedParametersIndicesRole).toList(),
+             QVariantList { parameter });
+    // The grade follows the strength chosen by its name.
+    QCOMPARE(ProxyIndexOf(*m_proxy, "material.steelGrade").data(valueRole).toString(), grade);
 }
 
 void tst_PropertiesModel::valuesThatBecomeMixedHideTheirRowAndHeader()
@@ -336,15 +354,15 @@ void tst_PropertiesModel::valuesThatBecomeMixedHideTheirRowAndHeader()
     // Two members on the same start node: the start node shows until one of them moves.
     const auto members = ObjectsOfType(*m_structure, StructuralObjectTypes::c_member);
     m_structure->Assign(members[1], "member.startNode", std::int32_t { 1 });
-    m_structure->Assign(members[1], "member.endNode", std::int32_t { 4 });
+    m_structure->Assign(members[1], "member.endNode", std::int32_t { 2 });
     m_model->ShowObjects(m_structure, { members[0], members[1] });
     QVERIFY(ProxyIndexOf(*m_proxy, "member.startNode").isValid());
     QVERIFY(ProxyIndexOf(*m_proxy, "member.endNode").isValid());
     QSignalSpy changed(m_model.get(), &QAbstractItemModel::dataChanged);
     QVERIFY(changed.isValid());
 
-    m_structure->Assign(members[1], "member.startNode", std::int32_t { 2 });
-    m_structure->Assign(members[1], "member.endNode", std::int32_t { 5 });
+    m_structure->Assign(members[1], "member.startNode", std::int32_t { 3 });
+    m_structure->Assign(members[1], "member.endNode", std::int32_t { 4 });
     m_model->RefreshValues();
 
     QCOMPARE(changed.count(), 1);
@@ -369,7 +387,7 @@ void tst_PropertiesModel::collapsedFlagsFollowTheProxysList()
         const QModelIndex index = m_model->index(row);
         QCOMPARE(index.data(isCollapsedRole).toBool(), index.data(categoryRole).toString() == geometry);
     }
-    QCOMPARE(changed.count(), 6); // the header, the subcategory and four properties
+    QCOMPARE(changed.count(), 5); // the header, the subcategory and three properties
     QCOMPARE(changed.front().at(2).value<QList<int>>(), QList<int> { isCollapsedRole });
     QVERIFY(!ProxyIndexOf(*m_proxy, "node.x").isValid());
 }

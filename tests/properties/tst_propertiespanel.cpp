@@ -2,9 +2,9 @@
 #include "framework/ServiceCatalog.h"
 #include "kernel/Directories.h"
 #include "kernel/PathText.h"
+#include "model/ModelGenerator.h"
 #include "properties/PropertiesPanel.h"
 #include "properties/PropertiesRoles.h"
-#include "properties/SampleStructure.h"
 #include "properties/StructuralModel.h"
 #include "properties/StructuralObjectTypes.h"
 
@@ -14,6 +14,7 @@
 #include <QSignalSpy>
 #include <QTemporaryDir>
 #include <QTest>
+#include <QUndoStack>
 
 using namespace Orvo::UI::UIComponents;
 using namespace Orvo::UI::UIComponents::PropertiesRoles;
@@ -61,6 +62,10 @@ private slots:
     void followsTheHostSelection();
     void entityChoiceNarrowsTheObjects();
     void editsAndHostChangesReachTheList();
+    void resetToDefaultsKeepsWhatHasNoDefault();
+    void refusedValueShowsWhy_data();
+    void refusedValueShowsWhy();
+    void shapeDecidesItsDimensionsAndDrawing();
     void configurationSurvivesSaveAndLoad();
     void unreadableConfigurationGivesDefaults_data();
     void unreadableConfigurationGivesDefaults();
@@ -70,6 +75,13 @@ private slots:
 
 private:
     std::vector<ObjectId> OfType(const QString& type) const { return ObjectsOfType(*m_structure, type); }
+    void WriteIllustration(const QString& name)
+    {
+        QVERIFY(QDir().mkpath(m_directory.filePath("application/Illustrations")));
+        QFile file(m_directory.filePath("application/Illustrations/" + name));
+        QVERIFY(file.open(QIODevice::WriteOnly));
+        file.write("import QtQuick\nItem {}\n");
+    }
 
     QTemporaryDir m_directory;
     std::shared_ptr<StructuralModel> m_structure;
@@ -91,7 +103,7 @@ void tst_PropertiesPanel::init()
     auto catalog = ServiceCatalog::CreateWithDefaults();
     ServiceCatalog::SetGlobal(catalog);
     m_structure = catalog->Get<StructuralModel>();
-    SampleStructure::Fill(*m_structure);
+    FillSampleFrame(*m_structure);
     m_panel = std::make_unique<PropertiesPanel>();
     m_tester = std::make_unique<QAbstractItemModelTester>(
         m_panel->propertiesModel(), QAbstractItemModelTester::FailureReportingMode::QtTest);
@@ -118,10 +130,11 @@ void tst_PropertiesPanel::followsTheHostSelection()
     QCOMPARE(m_panel->title(), "2 objects selected");
     // Number and name differ and hide, the comment is advanced: nothing general is left.
     QCOMPARE(Categories(*m_panel->propertiesModel()),
-             (QStringList { "GEOMETRY", "CROSS_SECTION", "MATERIAL", "DISPLAY" }));
+             (QStringList { "GEOMETRY", "CROSS_SECTION", "MATERIAL" }));
 
+    // Numbers count per kind from 1.
     m_structure->Select({ members[2] });
-    QCOMPARE(m_panel->title(), QStringLiteral("Member %1").arg(members[2]));
+    QCOMPARE(m_panel->title(), QStringLiteral("Member 3"));
 
     m_structure->Select({});
     QCOMPARE(m_panel->propertiesModel()->rowCount(), 0);
@@ -137,7 +150,7 @@ void tst_PropertiesPanel::entityChoiceNarrowsTheObjects()
     m_structure->Select({ nodes[0], members[0], members[1] });
     QCOMPARE(EntityNames(entities), (QStringList { "3 All objects", "1 Node", "2 Members" }));
     QCOMPARE(entities.currentIndex(), 0);
-    QCOMPARE(Categories(*m_panel->propertiesModel()), QStringList { "DISPLAY" });
+    QCOMPARE(Categories(*m_panel->propertiesModel()), QStringList());
 
     entities.setCurrentIndex(2);
     QCOMPARE(m_panel->sourceModel()->ShownObjects(), (std::vector<ObjectId> { members[0], members[1] }));
@@ -156,18 +169,96 @@ void tst_PropertiesPanel::entityChoiceNarrowsTheObjects()
 
 void tst_PropertiesPanel::editsAndHostChangesReachTheList()
 {
-    const auto members = OfType(StructuralObjectTypes::c_member);
-    m_structure->Select(members);
-    const QString height = UuidOf("member.height");
+    const auto sections = OfType(StructuralObjectTypes::c_crossSection);
+    m_structure->Select(sections);
+    const QString height = UuidOf("section.height");
 
     QVERIFY(m_panel->setValue(500, height));
-    for (ObjectId id : members)
-        QCOMPARE(std::get<double>(m_structure->FindObject(id)->Value("member.height")), 500.0);
+    for (ObjectId id : sections)
+        QCOMPARE(std::get<double>(*m_structure->Value(id, "section.height")), 500.0);
 
-    m_structure->Assign(members[2], "member.height", 320.0);
+    m_structure->Assign(sections[1], "section.height", 320.0);
     const QModelIndex row = m_panel->sourceModel()->index(m_panel->sourceModel()->FindRow(height));
     QVERIFY(row.data(mixedRole).toBool());
     QCOMPARE(row.data(mixedValuesRole).toList().mid(0, 2), (QVariantList { 500.0, 320.0 }));
+}
+
+void tst_PropertiesPanel::resetToDefaultsKeepsWhatHasNoDefault()
+{
+    const auto sections = OfType(StructuralObjectTypes::c_crossSection);
+    m_structure->Select(sections);
+    QVERIFY(m_panel->setValue(500, UuidOf("section.height")));
+    QUndoStack& undo = *m_structure->UndoStack();
+    const int steps = undo.count();
+
+    QCOMPARE(m_panel->actionsModel()->index(0).data().toString(), "Reset to defaults");
+    QVERIFY(m_panel->runAction(0));
+
+    QCOMPARE(undo.count(), steps + 1);
+    QCOMPARE(undo.undoText(), "Reset to defaults: 2 cross-sections");
+    QCOMPARE(std::get<double>(*m_structure->Value(sections[0], "section.height")), 300.0);
+    QCOMPARE(std::get<QString>(*m_structure->Value(sections[0], "general.name")), "HEB 300");
+    QCOMPARE(std::get<QString>(*m_structure->Value(sections[1], "general.name")), "IPE 400");
+    const auto nodes = OfType(StructuralObjectTypes::c_node);
+    m_structure->Select({ nodes[1] });
+    QVERIFY(!m_panel->runAction(0)); // coordinates have no default: nothing to reset
+    QCOMPARE(std::get<double>(*m_structure->Value(nodes[1], "node.z")), 4.5);
+
+    undo.undo();
+    QCOMPARE(std::get<double>(*m_structure->Value(sections[0], "section.height")), 500.0);
+}
+
+void tst_PropertiesPanel::refusedValueShowsWhy_data()
+{
+    QTest::addColumn<QString>("key");
+    QTest::addColumn<QVariant>("value");
+    QTest::addColumn<QString>("message");
+
+    QTest::newRow("no such node") << "member.endNode" << QVariant(99) << "There is no node 99";
+    QTest::newRow("its own start node")
+        << "member.endNode" << QVariant(1) << "A member cannot start and end at the same node (1)";
+    QTest::newRow("no such section") << "member.section" << QVariant(9) << "There is no cross-section 9";
+}
+
+void tst_PropertiesPanel::refusedValueShowsWhy()
+{
+    QFETCH(QString, key);
+    QFETCH(QVariant, value);
+    QFETCH(QString, message);
+    const ObjectId member = OfType(StructuralObjectTypes::c_member).front();
+    m_structure->Select({ member });
+    QSignalSpy messageChanged(m_panel.get(), &PropertiesPanel::messageChanged);
+    const PropertyValue before = *m_structure->Value(member, key);
+
+    QTest::ignoreMessage(QtDebugMsg, QRegularExpression("keeps its value"));
+    QVERIFY(!m_panel->setValue(value, UuidOf(key)));
+
+    QCOMPARE(m_panel->message(), message);
+    QCOMPARE(*m_structure->Value(member, key), before);
+    QVERIFY(m_panel->setValue(4, UuidOf("member.endNode")));
+    QCOMPARE(m_panel->message(), QString());
+    QCOMPARE(messageChanged.count(), 2);
+}
+
+void tst_PropertiesPanel::shapeDecidesItsDimensionsAndDrawing()
+{
+    WriteIllustration("CrossSection.qml");
+    WriteIllustration("SectionCircle.qml");
+    const ObjectId section = OfType(StructuralObjectTypes::c_crossSection).front();
+    m_structure->Select({ section });
+    m_panel->setInBasicMode(false);
+    m_panel->showIllustration(UuidOf("section.shape"));
+    QVERIFY(m_panel->illustration()->source().endsWith("Illustrations/CrossSection.qml"));
+    PropertiesModel& rows = *m_panel->sourceModel();
+    QVERIFY(rows.FindRow(UuidOf("section.height")) >= 0);
+
+    QVERIFY(m_panel->setValue(4, UuidOf("section.shape"))); // Circle
+
+    QCOMPARE(rows.FindRow(UuidOf("section.height")), -1);
+    QCOMPARE(rows.FindRow(UuidOf("section.width")), -1);
+    QCOMPARE(rows.FindRow(UuidOf("section.flangeThickness")), -1);
+    QVERIFY(rows.FindRow(UuidOf("section.diameter")) >= 0);
+    QVERIFY(m_panel->illustration()->source().endsWith("Illustrations/SectionCircle.qml"));
 }
 
 void tst_PropertiesPanel::configurationSurvivesSaveAndLoad()
@@ -241,12 +332,12 @@ void tst_PropertiesPanel::actionsRunOnTheCurrentObjects()
     const ActionsModel& actions = *m_panel->actionsModel();
     QCOMPARE(actions.rowCount(), 2);
     QCOMPARE(actions.index(1).data().toString(), "Reverse direction");
-    const PropertyValue start = m_structure->FindObject(member)->Value("member.startNode");
-    const PropertyValue end = m_structure->FindObject(member)->Value("member.endNode");
+    const PropertyValue start = (*m_structure->Value(member, "member.startNode"));
+    const PropertyValue end = (*m_structure->Value(member, "member.endNode"));
 
     QVERIFY(m_panel->runAction(1));
-    QCOMPARE(m_structure->FindObject(member)->Value("member.startNode"), end);
-    QCOMPARE(m_structure->FindObject(member)->Value("member.endNode"), start);
+    QCOMPARE((*m_structure->Value(member, "member.startNode")), end);
+    QCOMPARE((*m_structure->Value(member, "member.endNode")), start);
 
     QTest::ignoreMessage(QtWarningMsg, "runAction: there is no action 7");
     QVERIFY(!m_panel->runAction(7));
@@ -254,22 +345,19 @@ void tst_PropertiesPanel::actionsRunOnTheCurrentObjects()
 
 void tst_PropertiesPanel::illustrationOfTheProperty()
 {
-    QVERIFY(QDir().mkpath(m_directory.filePath("application/Illustrations")));
+    WriteIllustration("CrossSection.qml");
     QFile image(m_directory.filePath("application/Illustrations/CrossSection.qml"));
-    QVERIFY(image.open(QIODevice::WriteOnly));
-    image.write("import QtQuick\nItem {}\n");
-    image.close();
-    m_structure->Select({ OfType(StructuralObjectTypes::c_member).front() });
+    m_structure->Select({ OfType(StructuralObjectTypes::c_crossSection).front() });
     IllustrationData& illustration = *m_panel->illustration();
     QSignalSpy availableChanged(&illustration, &IllustrationData::availableChanged);
     QVERIFY(availableChanged.isValid());
 
-    m_panel->showIllustration(UuidOf("member.height"));
+    m_panel->showIllustration(UuidOf("section.height"));
     QVERIFY(illustration.isAvailable());
     QVERIFY(illustration.source().startsWith("file:"));
     QVERIFY(illustration.source().endsWith("application/Illustrations/CrossSection.qml"));
     QCOMPARE(illustration.title(), "Height h");
-    QCOMPARE(illustration.subject(), "member.height");
+    QCOMPARE(illustration.subject(), "section.height");
     QCOMPARE(availableChanged.count(), 1);
 
     m_panel->showIllustration(UuidOf("general.name"));
@@ -277,7 +365,7 @@ void tst_PropertiesPanel::illustrationOfTheProperty()
 
     QVERIFY(image.remove());
     QTest::ignoreMessage(QtWarningMsg, QRegularExpression("Illustration .*CrossSection.qml is missing"));
-    m_panel->showIllustration(UuidOf("member.width"));
+    m_panel->showIllustration(UuidOf("section.width"));
     QVERIFY(!illustration.isAvailable());
 }
 
@@ -287,7 +375,7 @@ void tst_PropertiesPanel::hostEventsAfterThePanelIsGoneAreHarmless()
     m_panel.reset();
     const auto nodes = OfType(StructuralObjectTypes::c_node);
     m_structure->Select(nodes);
-    QCOMPARE(m_structure->SetValue(nodes, "node.z", 1.0).changed, static_cast<int>(nodes.size()));
+    QCOMPARE(m_structure->SetValue(nodes, "node.y", 1.0).changed, static_cast<int>(nodes.size()));
 }
 
 QTEST_MAIN(tst_PropertiesPanel)

@@ -2,7 +2,7 @@
 #include "framework/ServiceCatalog.h"
 #include "kernel/Directories.h"
 #include "kernel/PathText.h"
-#include "properties/SampleStructure.h"
+#include "model/ModelGenerator.h"
 #include "properties/StructuralModel.h"
 #include "properties/StructuralObjectTypes.h"
 
@@ -84,7 +84,7 @@ void tst_PropertiesPanelView::init()
     auto catalog = ServiceCatalog::CreateWithDefaults();
     ServiceCatalog::SetGlobal(catalog);
     m_structure = catalog->Get<StructuralModel>();
-    SampleStructure::Fill(*m_structure);
+    FillSampleFrame(*m_structure);
 
     OpenView();
 }
@@ -145,7 +145,7 @@ void tst_PropertiesPanelView::foldingACategoryHidesItsRows()
     QVERIFY(!Item("subcategoryHeader_Coordinates"));
     QVERIFY(Item(geometryHeader));
     QVERIFY(Item(geometryHeader)->property("collapsed").toBool());
-    QVERIFY(Item("propertyRow_" + UuidOf("node.supportType")));
+    QVERIFY(Item("propertyRow_" + UuidOf("general.name")));
     SaveScreenshot("properties_geometry_folded");
 
     Click(Item(geometryHeader));
@@ -155,10 +155,10 @@ void tst_PropertiesPanelView::foldingACategoryHidesItsRows()
 
 void tst_PropertiesPanelView::typingIntoAnEditorChangesEverySelectedObject()
 {
-    const auto members = OfType(StructuralObjectTypes::c_member);
-    m_structure->Select(members);
+    const auto sections = OfType(StructuralObjectTypes::c_crossSection);
+    m_structure->Select(sections);
     QQuickItem* row = nullptr;
-    QTRY_VERIFY((row = Item("propertyRow_" + UuidOf("member.height"))));
+    QTRY_VERIFY((row = Item("propertyRow_" + UuidOf("section.height"))));
     QQuickItem* field = FindItem(row, "numericInputField");
     QVERIFY(field);
 
@@ -168,18 +168,19 @@ void tst_PropertiesPanelView::typingIntoAnEditorChangesEverySelectedObject()
         QTest::keyClick(m_view.get(), key);
     QTest::keyClick(m_view.get(), Qt::Key_Return);
 
-    for (ObjectId id : members)
-        QCOMPARE(std::get<double>(m_structure->FindObject(id)->Value("member.height")), 450.0);
+    for (ObjectId id : sections)
+        QCOMPARE(std::get<double>((*m_structure->Value(id, "section.height"))), 450.0);
     QTRY_VERIFY(!FindItem(row, "mixedValuesButton"));
     QCOMPARE(field->property("text").toString(), "450");
 }
 
 void tst_PropertiesPanelView::mixedValuesAreMarkedAndOffered()
 {
-    const auto members = OfType(StructuralObjectTypes::c_member);
-    m_structure->Select(members);
+    const auto materials = OfType(StructuralObjectTypes::c_material);
+    m_structure->Select(materials);
+    const QString categoryRow = "propertyRow_" + UuidOf("material.category");
     QQuickItem* row = nullptr;
-    QTRY_VERIFY((row = Item("propertyRow_" + UuidOf("member.material"))));
+    QTRY_VERIFY((row = Item(categoryRow)));
     QQuickItem* listEditor = FindItem(row, "listEditor");
     QVERIFY(listEditor);
     QCOMPARE(listEditor->property("displayText").toString(), "Mixed");
@@ -194,18 +195,20 @@ void tst_PropertiesPanelView::mixedValuesAreMarkedAndOffered()
     QTest::qWait(200);
     SaveScreenshot("properties_mixed_values");
 
-    // The entries are S235, S355 and the reset; pick S355 for every member.
+    // The entries are Steel and Concrete; pick Concrete for every material.
     Click(FindItem(popup->property("contentItem").value<QQuickItem*>(), "mixedValue_1"));
-    for (ObjectId id : members)
-        QCOMPARE(std::get<std::int32_t>(m_structure->FindObject(id)->Value("member.material")), 1);
-    QTRY_COMPARE(listEditor->property("displayText").toString(), "S355");
+    for (ObjectId id : materials)
+        QCOMPARE(std::get<std::int32_t>((*m_structure->Value(id, "material.category"))), 1);
+    // The rows are listed anew: concrete has a strength class where steel had a grade.
+    QTRY_VERIFY(Item(categoryRow) && FindItem(Item(categoryRow), "listEditor"));
+    QTRY_COMPARE(FindItem(Item(categoryRow), "listEditor")->property("displayText").toString(), "Concrete");
 }
 
 void tst_PropertiesPanelView::advancedModeShowsEveryProperty()
 {
     m_structure->Select({ OfType(StructuralObjectTypes::c_member).front() });
-    const QString flangeRow = "propertyRow_" + UuidOf("member.flangeThickness");
-    QTRY_VERIFY(Item("propertyRow_" + UuidOf("member.height")));
+    const QString flangeRow = "propertyRow_" + UuidOf("member.rotation");
+    QTRY_VERIFY(Item("propertyRow_" + UuidOf("member.section")));
     QVERIFY(!Item(flangeRow));
     const int basic = ListCount();
 
@@ -224,9 +227,9 @@ void tst_PropertiesPanelView::hoveringAPropertyShowsItsIllustration()
 {
     // The drawings ship in the application directory, beside the executables.
     QVERIFY(QFile::exists(QCoreApplication::applicationDirPath() + "/Illustrations/CrossSection.qml"));
-    m_structure->Select({ OfType(StructuralObjectTypes::c_member).front() });
+    m_structure->Select({ OfType(StructuralObjectTypes::c_crossSection).front() });
     QQuickItem* row = nullptr;
-    QTRY_VERIFY((row = Item("propertyRow_" + UuidOf("member.width"))));
+    QTRY_VERIFY((row = Item("propertyRow_" + UuidOf("section.width"))));
     QVERIFY(!Item("illustrationView"));
 
     const QPointF over = row->mapToScene(QPointF(20, row->height() / 2));
@@ -239,7 +242,7 @@ void tst_PropertiesPanelView::hoveringAPropertyShowsItsIllustration()
                  .value<QObject*>()
                  ->property("subject")
                  .toString(),
-             "member.width");
+             "section.width");
     SaveScreenshot("properties_illustration");
 
     QTest::mouseMove(m_view.get(),
@@ -249,9 +252,9 @@ void tst_PropertiesPanelView::hoveringAPropertyShowsItsIllustration()
 
 void tst_PropertiesPanelView::foldedCategoriesSurviveReopening()
 {
-    m_structure->Select({ OfType(StructuralObjectTypes::c_node).front() });
+    m_structure->Select({ OfType(StructuralObjectTypes::c_support).front() });
     const QString supportHeader = "categoryHeader_UI_PROPERTIES_CATEGORY_SUPPORT";
-    const QString supportRow = "propertyRow_" + UuidOf("node.supportType");
+    const QString supportRow = "propertyRow_" + UuidOf("support.type");
     QTRY_VERIFY(Item(supportRow));
     Click(Item(supportHeader));
     QTRY_VERIFY(!Item(supportRow));

@@ -1,3 +1,4 @@
+#include "StructuralMembersFeeder.h"
 #include "framework/HostApplication.h"
 #include "framework/ServiceCatalog.h"
 #include "kernel/Directories.h"
@@ -32,6 +33,8 @@ public slots:
         using Orvo::UI::QtExtensions::ShellQmlContext;
         if (auto shell = Orvo::Kernel::Framework::ServiceCatalog::Global()->Get<ShellQmlContext>())
             shell->SetContext(engine->rootContext());
+        // The demo's 100,000-member table, for tests that use a table as a person does.
+        qmlRegisterType<StructuralMembersFeeder>("Demo", 1, 0, "StructuralMembersFeeder");
     }
 
 private:

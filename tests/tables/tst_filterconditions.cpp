@@ -213,6 +213,30 @@ private slots:
         QCOMPARE(condition->Evaluate(cell), accepted);
     }
 
+    void shouldTellTextsThatLookLikeAConditionButAreNone_data()
+    {
+        QTest::addColumn<QString>("text");
+        QTest::addColumn<bool>("malformed");
+        QTest::newRow("comparison") << "<=5" << false;
+        QTest::newRow("comparison with blanks") << " > 5 " << false;
+        QTest::newRow("interval") << "[1;5)" << false;
+        QTest::newRow("plain text") << "S355" << false;
+        QTest::newRow("blank") << "  " << false;
+        QTest::newRow("operators only") << "<<<" << true;
+        QTest::newRow("an opening bracket") << "[" << true;
+        QTest::newRow("unfinished interval") << "[1;5" << true;
+        QTest::newRow("three bounds") << "[1;2;3]" << true;
+        QTest::newRow("operator without operand") << ">=" << true;
+        QTest::newRow("= followed by an operator") << "=<5" << true;
+    }
+
+    void shouldTellTextsThatLookLikeAConditionButAreNone()
+    {
+        QFETCH(QString, text);
+        QFETCH(bool, malformed);
+        QCOMPARE(FilterConditionFactory::IsMalformed(text), malformed);
+    }
+
     void shouldReadNumbersWithEitherDecimalMark_data()
     {
         QTest::addColumn<QString>("text");

@@ -1,10 +1,10 @@
-#include "TableTestData.h"
-#include "TableTestFeeder.h"
+#include "TableFixture.h"
+#include "TestHost.h"
+#include "basiccomponents/NumberFormatSettings.h"
+#include "tables/MultiEditAction.h"
 #include "tables/TableContentModel.h"
 
 #include <QAbstractItemModelTester>
-#include <QClipboard>
-#include <QGuiApplication>
 #include <QSignalSpy>
 #include <QTest>
 #include <stdexcept>
@@ -12,31 +12,7 @@
 using namespace Orvo::UI::UIComponents;
 using namespace Orvo::UI::UIComponents::TestData;
 
-namespace {
-
-// A model with its feeder and a model tester attached before anything happens.
-struct Fixture
-{
-    explicit Fixture(int rowCount, bool allowAddNew = false)
-        : feeder(model)
-        , tester(&model, QAbstractItemModelTester::FailureReportingMode::QtTest)
-    {
-        model.setAllowEdit(true);
-        model.setAllowAddNew(allowAddNew);
-        feeder.SetTable(MemberColumns(), MemberRows(rowCount));
-        feeder.Load();
-    }
-    QString Content(int row, int column) const
-    {
-        return model.data(model.index(row, column), TableContentModel::ContentRole).toString();
-    }
-
-    TableContentModel model;
-    TableTestFeeder feeder;
-    QAbstractItemModelTester tester;
-};
-
-} // namespace
+using Fixture = TableFixture;
 
 class tst_TableContentModel : public QObject
 {
@@ -144,6 +120,48 @@ private slots:
         QCOMPARE(fixture.Content(fixture.model.newRowIndex(), 0), QString());
     }
 
+    void shouldTakeAnEditWhateverAllowEditSays()
+    {
+        // allowEdit is what the view offers (paste, the multi-edit box); an edit of an editable
+        // cell reaches the pending update either way
+        Fixture fixture(3);
+        fixture.model.setAllowEdit(false);
+        QVERIFY(fixture.model.setData(fixture.model.index(1, 0), "X", TableContentModel::ContentRole));
+        QCOMPARE(fixture.model.GetPendingUpdate().GetValue(1, 0).toString(), QStringLiteral("X"));
+        QVERIFY(!fixture.model.setData(fixture.model.index(1, 4), "x", TableContentModel::ContentRole));
+    }
+
+    void shouldKeepPendingEditsWithTheirColumn_data()
+    {
+        QTest::addColumn<int>("source");
+        QTest::addColumn<int>("destination");
+        QTest::addColumn<int>("editedColumnAfter");
+        QTest::newRow("edited column moved right") << 1 << 4 << 3;
+        QTest::newRow("another column moved before it") << 3 << 0 << 2;
+        QTest::newRow("a column after it moved") << 3 << 2 << 1;
+    }
+
+    void shouldKeepPendingEditsWithTheirColumn()
+    {
+        // Given an edit of the count column that is not confirmed yet
+        QFETCH(int, source);
+        QFETCH(int, destination);
+        QFETCH(int, editedColumnAfter);
+        Fixture fixture(3);
+        QVERIFY(fixture.model.setData(fixture.model.index(2, 1), "42", TableContentModel::ContentRole));
+        // When columns move
+        fixture.model.moveColumn(source, destination);
+        // Then the edit goes with the count column, shows there and is sent for it
+        QCOMPARE(fixture.model.headerData(editedColumnAfter, Qt::Horizontal, TableContentModel::ColumnIdRole)
+                     .toString(),
+                 QStringLiteral("count"));
+        QCOMPARE(fixture.Content(2, editedColumnAfter), QStringLiteral("42"));
+        fixture.model.confirmUpdate();
+        QCOMPARE(fixture.feeder.updates.size(), std::size_t(1));
+        QCOMPARE(fixture.feeder.updates[0].GetRows().at(2).size(), std::size_t(1));
+        QCOMPARE(fixture.feeder.rows[2][1].content.toString(), QStringLiteral("42"));
+    }
+
     void shouldKeepEditsPendingUntilConfirmed()
     {
         Fixture fixture(10);
@@ -188,38 +206,6 @@ private slots:
         QVERIFY(!fixture.model.setHeaderData(3, Qt::Horizontal, TableContentModel::Descending,
                                              TableContentModel::SortOrderRole));
         QVERIFY(!fixture.model.setHeaderData(0, Qt::Vertical, 1, TableContentModel::SortOrderRole));
-    }
-
-    void shouldSnapWidthsToTheStep_data()
-    {
-        QTest::addColumn<int>("width");
-        QTest::addColumn<int>("minWidth");
-        QTest::addColumn<bool>("extend");
-        QTest::addColumn<int>("expected");
-        QTest::newRow("narrow 130 to the minimum") << 130 << 64 << false << 64;
-        QTest::newRow("narrow 127: one step below is 0, the minimum wins") << 127 << 64 << false << 64;
-        QTest::newRow("narrow 200 to 128") << 200 << 64 << false << 128;
-        QTest::newRow("narrow never widens") << 70 << 100 << false << 100;
-        QTest::newRow("extend 64 to 128") << 64 << 64 << true << 128;
-        QTest::newRow("extend 100 to 128") << 100 << 64 << true << 128;
-    }
-
-    void shouldSnapWidthsToTheStep()
-    {
-        QFETCH(int, width);
-        QFETCH(int, minWidth);
-        QFETCH(bool, extend);
-        QFETCH(int, expected);
-        Fixture fixture(1);
-        QVERIFY(
-            fixture.model.setHeaderData(0, Qt::Horizontal, minWidth, TableContentModel::ColumnMinWidthRole)
-            || minWidth == 64);
-        fixture.model.setColumnWidth(0, width);
-        QSignalSpy layout(&fixture.model, &TableContentModel::columnsLayoutChanged);
-        extend ? fixture.model.extendAllColumns() : fixture.model.narrowAllColumns();
-        QCOMPARE(fixture.model.columnWidth(0), expected);
-        QCOMPARE(fixture.model.GetColumns()[0].width, expected);
-        QCOMPARE(fixture.model.submitLayout(), false);
     }
 
     void shouldWidenBoolColumnsWithNamedStates()
@@ -289,124 +275,6 @@ private slots:
         QCOMPARE(model.getColorLcid(18), QString());
     }
 
-    void shouldCopyTheSelectionWithAHeaderLine()
-    {
-        Fixture fixture(5);
-        TableSelectionModel* selection = fixture.model.selectionModel();
-        selection->select(fixture.model.index(1, 0), TableSelectionModel::CleanSelect);
-        selection->select(fixture.model.index(1, 2), TableSelectionModel::Toggle);
-        selection->select(fixture.model.index(2, 3), TableSelectionModel::Toggle);
-        fixture.model.copyToClipboard();
-        QCOMPARE(QGuiApplication::clipboard()->text(),
-                 QStringLiteral("Label name\tLabel count\tLabel length\tLabel material\n"
-                                "B2\t\t3\t\n"
-                                "\t\t\tC30/37"));
-    }
-
-    void shouldPasteInOneUpdateAndAddSurplusLinesAsNewRows()
-    {
-        Fixture fixture(3, true);
-        QSignalSpy changes(&fixture.model, &QAbstractItemModel::dataChanged);
-        QSignalSpy updates(&fixture.model, &TableContentModel::updateDataRequest);
-        fixture.model.contentFilterModel()->selectionModel()->select(
-            fixture.model.contentFilterModel()->index(1, 0), TableSelectionModel::CleanSelect);
-        changes.clear();
-        QGuiApplication::clipboard()->setText(QStringLiteral("Label name\tLabel count\n"
-                                                             "P1\tabc\textra\tx\tread-only\tbeyond\n"
-                                                             "P2\t5\n"
-                                                             "P3\t7\n"));
-        fixture.model.pasteFromClipboard();
-        QCOMPARE(changes.count(), 1);
-        const TableContentUpdate& pending = fixture.model.GetPendingUpdate();
-        QCOMPARE(pending.GetValue(1, 0).toString(), QStringLiteral("P1"));
-        QVERIFY(!pending.Contains(1, 1)); // "abc" is no integer
-        QVERIFY(!pending.Contains(1, 4)); // read-only column
-        QCOMPARE(pending.GetValue(2, 1).toString(), QStringLiteral("5"));
-        QCOMPARE(pending.GetValue(3, 0).toString(), QStringLiteral("P3")); // the new row
-        QCOMPARE(pending.MaxRow(), 3);
-
-        fixture.model.confirmUpdate();
-        QCOMPARE(updates.count(), 1);
-        QCOMPARE(fixture.model.rowCountSubmitted(), 4);
-        QCOMPARE(fixture.Content(3, 1), QStringLiteral("7"));
-    }
-
-    void shouldRoundTripACopyThroughPaste()
-    {
-        Fixture fixture(4);
-        TableSelectionModel* selection = fixture.model.selectionModel();
-        selection->select(fixture.model.index(0, 0), TableSelectionModel::CleanSelect);
-        selection->selectRegion(fixture.model.index(1, 3), TableSelectionModel::CleanSelect);
-        fixture.model.copyToClipboard();
-        fixture.model.contentFilterModel()->selectionModel()->select(
-            fixture.model.contentFilterModel()->index(2, 0), TableSelectionModel::CleanSelect);
-        fixture.model.pasteFromClipboard();
-        fixture.model.confirmUpdate();
-        for (int column = 0; column < 4; ++column) {
-            QCOMPARE(fixture.Content(2, column), fixture.Content(0, column));
-            QCOMPARE(fixture.Content(3, column), fixture.Content(1, column));
-        }
-    }
-
-    void shouldCopyRealNumbersWithEveryDigit_data()
-    {
-        QTest::addColumn<double>("value");
-        QTest::newRow("more decimals than an edit shows") << 1.23456789012345;
-        QTest::newRow("tiny") << 1e-9;
-        QTest::newRow("large with a fraction") << 123456789.125;
-        QTest::newRow("negative") << -0.1;
-        QTest::newRow("zero") << 0.0;
-    }
-
-    void shouldCopyRealNumbersWithEveryDigit()
-    {
-        // Given a real cell whose value has more digits than the edit form shows
-        QFETCH(double, value);
-        TableContentModel model;
-        TableTestFeeder feeder(model);
-        model.setAllowEdit(true);
-        feeder.SetTable({ Column("length", TableValueType::Real) },
-                        { { Cell(value, TableValueType::Real) }, { Cell(0.5, TableValueType::Real) } });
-        feeder.Load();
-        // When it is copied and pasted onto the next row
-        model.selectionModel()->select(model.index(0, 0), TableSelectionModel::CleanSelect);
-        model.copyToClipboard();
-        model.contentFilterModel()->selectionModel()->select(model.contentFilterModel()->index(1, 0),
-                                                             TableSelectionModel::CleanSelect);
-        model.pasteFromClipboard();
-        model.confirmUpdate();
-        // Then the pasted value is exactly the copied one
-        QCOMPARE(model.data(model.index(1, 0), TableContentModel::ContentRole).toDouble(), value);
-    }
-
-    void shouldConvertTypedText_data()
-    {
-        QTest::addColumn<QString>("text");
-        QTest::addColumn<int>("type");
-        QTest::addColumn<QStringList>("names");
-        QTest::addColumn<QString>("expected");
-        QTest::newRow("integer expression") << "2*3" << int(TableValueType::Integer) << QStringList() << "6";
-        QTest::newRow("integer rounds") << "2,6" << int(TableValueType::Integer) << QStringList() << "3";
-        QTest::newRow("not a number") << "abc" << int(TableValueType::Integer) << QStringList() << QString();
-        QTest::newRow("named value, any case")
-            << "yes" << int(TableValueType::Bool) << QStringList { "Yes", "No" } << "Yes";
-        QTest::newRow("bool zero takes the second name")
-            << "0" << int(TableValueType::Bool) << QStringList { "Yes", "No" } << "No";
-        QTest::newRow("bool without names") << "5" << int(TableValueType::Bool) << QStringList() << "1";
-        QTest::newRow("text stays text") << "abc" << int(TableValueType::String) << QStringList() << "abc";
-    }
-
-    void shouldConvertTypedText()
-    {
-        QFETCH(QString, text);
-        QFETCH(int, type);
-        QFETCH(QStringList, names);
-        QFETCH(QString, expected);
-        const QString value = TableContentModel::CreateContentUpdateValue(text, TableValueType(type), names);
-        QCOMPARE(value.isNull(), expected.isNull());
-        QCOMPARE(value, expected);
-    }
-
     void shouldGrowAResultsTableWithAppendedContent()
     {
         TableContentModel model;
@@ -429,6 +297,96 @@ private slots:
         QCOMPARE(model.data(model.index(152, 0), TableContentModel::BoldRole).toBool(), true);
         QCOMPARE(model.data(model.index(151, 0), TableContentModel::EditableRole).toBool(), false);
         QVERIFY_THROWS_EXCEPTION(std::runtime_error, model.AddColumnsContent({ { "torque", {} } }));
+    }
+
+    void shouldWithdrawAnEditTypedBackToTheOriginal()
+    {
+        // Given an edit of row 2's length (4.5) waiting
+        Fixture fixture(4);
+        const QModelIndex length = fixture.model.index(2, 2);
+        QVERIFY(fixture.model.setData(length, "7", TableContentModel::ContentRole));
+        QVERIFY(fixture.model.setData(fixture.model.index(1, 0), "X", TableContentModel::ContentRole));
+        // When the original is typed back
+        QVERIFY(fixture.model.setData(length, "4,5", TableContentModel::ContentRole));
+        // Then the cell shows the original and the update sent holds only the other edit
+        QCOMPARE(fixture.model.data(length, TableContentModel::ContentRole).toDouble(), 4.5);
+        QVERIFY(!fixture.model.GetPendingUpdate().Contains(2, 2));
+        fixture.model.confirmUpdate();
+        QCOMPARE(fixture.feeder.updates.size(), std::size_t(1));
+        QCOMPARE(fixture.feeder.updates[0].GetRows().size(), std::size_t(1));
+        QVERIFY(!fixture.feeder.updates[0].Contains(2, 2));
+    }
+
+    void shouldRewriteShownNumbersWhenTheNumberFormatChanges()
+    {
+        using Orvo::UI::BasicComponents::NumberFormatSettings;
+        // Given a table shown with decimal points
+        TestHost host;
+        const auto catalog = host.StartServices();
+        Fixture fixture(3);
+        const QModelIndex length = fixture.model.index(2, 2);
+        QCOMPARE(fixture.model.data(length, TableContentFilterModel::DisplayTextRole).toString(), "4.50");
+        QSignalSpy changes(&fixture.model, &QAbstractItemModel::dataChanged);
+        // When the user chooses the decimal comma
+        catalog->Get<NumberFormatSettings>()->SetDecimalMark(NumberFormatSettings::DecimalMark::Comma);
+        // Then the views are told that every cell's text changed, and the text has the comma
+        QCOMPARE(changes.count(), 1);
+        const QModelIndex topLeft = changes[0][0].toModelIndex();
+        const QModelIndex bottomRight = changes[0][1].toModelIndex();
+        QCOMPARE(QPoint(topLeft.column(), topLeft.row()), QPoint(0, 0));
+        QCOMPARE(QPoint(bottomRight.column(), bottomRight.row()),
+                 QPoint(fixture.model.columnCount() - 1, fixture.model.rowCount() - 1));
+        QVERIFY(changes[0][2].value<QList<int>>().contains(TableContentFilterModel::DisplayTextRole));
+        QCOMPARE(fixture.model.data(length, TableContentFilterModel::DisplayTextRole).toString(), "4,50");
+    }
+
+    void shouldQueueNothingForValuesARoundLeavesAsTheyAre()
+    {
+        // Given lengths 1.5, 3.0, 4.5 selected and rounded to halves
+        Fixture fixture(3);
+        TableSelectionModel* selection = fixture.model.selectionModel();
+        selection->select(fixture.model.index(0, 2), TableSelectionModel::CleanSelect);
+        selection->selectRegion(fixture.model.index(2, 2), TableSelectionModel::CleanSelect);
+        fixture.model.setDataForSelection(MultiEditAction::Round, "0.5");
+        // Then the pending update is empty, not filled with the same values
+        QVERIFY(fixture.model.GetPendingUpdate().IsEmpty());
+        // and rounding to whole numbers queues exactly the two that change
+        fixture.model.setDataForSelection(MultiEditAction::Round, "1");
+        const auto& rows = fixture.model.GetPendingUpdate().GetRows();
+        QCOMPARE(rows.size(), std::size_t(2));
+        QVERIFY(!fixture.model.GetPendingUpdate().Contains(1, 2));
+    }
+
+    void shouldDropPendingEditsWhenAResultsTableGrows()
+    {
+        Fixture fixture(3);
+        QVERIFY(fixture.model.setData(fixture.model.index(0, 0), "X", TableContentModel::ContentRole));
+        TableColumnContent names { "name", { Cell("B4", TableValueType::String) } };
+        std::vector<TableColumnContent> grown;
+        for (const TableColumn& column : MemberColumns())
+            grown.push_back({ column.id, { column.id == "name" ? names.cells[0] : TableCellContent() } });
+        fixture.model.AddColumnsContent(std::move(grown));
+        QCOMPARE(fixture.model.rowCountSubmitted(), 4);
+        fixture.model.confirmUpdate();
+        QVERIFY(fixture.feeder.updates.empty());
+    }
+
+    void shouldNotChangeAnUpdateAListenerKept()
+    {
+        // Given a listener that keeps the update it was sent, and a feeder that does not refill yet
+        Fixture fixture(3);
+        disconnect(&fixture.model, &TableContentModel::updateDataRequest, &fixture.feeder, nullptr);
+        TableContentUpdate kept;
+        connect(&fixture.model, &TableContentModel::updateDataRequest, this,
+                [&](const TableContentUpdate& update) { kept = update; });
+        QVERIFY(fixture.model.setData(fixture.model.index(0, 0), "X", TableContentModel::ContentRole));
+        fixture.model.confirmUpdate();
+        // When the user edits again before the feeder refills
+        QVERIFY(fixture.model.setData(fixture.model.index(1, 0), "Y", TableContentModel::ContentRole));
+        QVERIFY(fixture.model.setData(fixture.model.index(0, 0), "Z", TableContentModel::ContentRole));
+        // Then the kept update still says what was sent
+        QCOMPARE(kept.GetRows().size(), std::size_t(1));
+        QCOMPARE(kept.GetValue(0, 0).toString(), QStringLiteral("X"));
     }
 
     void shouldAskForActionsOnlyOfCellsThatHaveOne()

@@ -59,6 +59,74 @@ class tst_TableFilterModel : public QObject
     Q_OBJECT
 
 private slots:
+    void shouldEmitNoModelSignalFromInsideFiltering()
+    {
+        // Given a check-box column with named states whose cells no one has asked for yet
+        TableContentModel model;
+        TableTestFeeder feeder(model);
+        FilterBarModel filterBar;
+        TableCellContent fixed = Cell(true, TableValueType::Bool);
+        fixed.parametersNames = QStringList { "Yes", "No" };
+        feeder.SetTable({ Column("fixed", TableValueType::Bool) }, { { fixed } });
+        feeder.Load();
+        model.setFilterBarModel(&filterBar);
+        QAbstractItemModelTester tester(model.contentFilterModel(),
+                                        QAbstractItemModelTester::FailureReportingMode::QtTest);
+        model.contentFilterModel()->selectionModel()->select(model.contentFilterModel()->index(0, 0),
+                                                             TableSelectionModel::CleanSelect);
+        int insideFiltering = 0;
+        const auto check = [&]() { insideFiltering += model.contentFilterModel()->Invalidating() ? 1 : 0; };
+        connect(&model, &QAbstractItemModel::headerDataChanged, this, check);
+        connect(&model, &QAbstractItemModel::dataChanged, this, check);
+        connect(&model, &TableContentModel::columnsLayoutChanged, this, check);
+        // When a filter makes the proxy fetch the cell, and the delivery widens the column
+        QVERIFY(filterBar.setData(filterBar.index(0), "x", FilterBarModel::ConditionTextRole));
+        // Then nothing was announced while a row was being tested, and the column widens after
+        QCOMPARE(insideFiltering, 0);
+        QTRY_COMPARE(model.headerData(0, Qt::Horizontal, TableContentModel::ColumnMinWidthRole).toInt(), 128);
+        QCOMPARE(insideFiltering, 0);
+        QCOMPARE(model.contentFilterModel()->rowCount(), 0); // "x" is no state of a check box
+    }
+
+    void shouldFilterTheRightColumnAfterColumnsComeBack()
+    {
+        // Given two columns hidden and all shown again
+        Fixture fixture(20, true);
+        TableColumnsModel* columns = fixture.model.columnsModel();
+        columns->hideColumn("name");
+        columns->hideColumn("count");
+        fixture.model.narrowAllColumns();
+        columns->displayAllColumns();
+        fixture.model.extendAllColumns();
+        QCOMPARE(fixture.filterBar.rowCount(), 5);
+        // When the material column is filtered
+        const int material = 3;
+        QCOMPARE(fixture.filter()
+                     ->headerData(material, Qt::Horizontal, TableContentModel::ColumnIdRole)
+                     .toString(),
+                 QStringLiteral("material"));
+        QVERIFY(fixture.SetFilter(material, "S355"));
+        // Then every shown record is of that material, and the new-row line stays last
+        const int records = fixture.filter()->rowCountSubmitted();
+        QCOMPARE(records, 7); // rows 1, 4, 7, ..., 19
+        for (int row = 0; row < records; ++row)
+            QCOMPARE(fixture.filter()->index(row, material).data(TableContentModel::ContentRole).toString(),
+                     QStringLiteral("S355"));
+        QCOMPARE(fixture.filter()->newRowIndex(), records);
+    }
+
+    void shouldKeepFilterTextsWhenAHiddenColumnIsShown()
+    {
+        Fixture fixture(20);
+        TableColumnsModel* columns = fixture.model.columnsModel();
+        QVERIFY(fixture.SetFilter(3, "S355"));
+        columns->hideColumn("name");
+        QCOMPARE(fixture.filterBar.index(2).data(FilterBarModel::ConditionTextRole).toString(), "S355");
+        columns->displayAllColumns();
+        QCOMPARE(fixture.filterBar.index(3).data(FilterBarModel::ConditionTextRole).toString(), "S355");
+        QCOMPARE(fixture.filter()->rowCount(), 7);
+    }
+
     void shouldKeepOneFilterTextPerColumn()
     {
         FilterBarModel bar;

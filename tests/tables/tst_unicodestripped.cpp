@@ -1,7 +1,10 @@
 #include "ReferenceUnicodeStripped.h"
 #include "tables/UnicodeStripped.h"
 
+#include <QRandomGenerator>
 #include <QTest>
+
+#include <iterator>
 
 using namespace Orvo::UI::UIComponents;
 
@@ -61,6 +64,39 @@ private slots:
                 QFAIL(qPrintable(
                     QStringLiteral("U+%1 folds differently").arg(uint(codePoint), 4, 16, QChar(u'0'))));
         }
+    }
+
+    // Long texts are decomposed piece by piece; marks in any order around the cuts, characters
+    // that decompose into marks or into many letters, and surrogate pairs must fold as if the
+    // text were decomposed whole.
+    void shouldFoldLongTextsAsAWhole()
+    {
+        const QString alphabet[] = {
+            QStringLiteral("a"),
+            QStringLiteral("\u0301"),
+            QStringLiteral("\u0323"),
+            QStringLiteral("\u0315"),
+            QStringLiteral("\uFDFA"),
+            QStringLiteral("\u1E9B"),
+            QStringLiteral("\uAC00"),
+            QStringLiteral("\u0F73"),
+            QStringLiteral("\u0344"),
+            QStringLiteral("\u00C5"),
+            QStringLiteral(" "),
+            QString::fromUcs4(U"\U0001D400"),
+            QString::fromUcs4(U"\U0001F600"),
+        };
+        QRandomGenerator random(13);
+        for (int sample = 0; sample < 200; ++sample) {
+            QString text;
+            const int length = 100 + static_cast<int>(random.bounded(1500));
+            while (text.size() < length)
+                text += alphabet[random.bounded(static_cast<quint32>(std::size(alphabet)))];
+            if (UnicodeStripped(text) != ReferenceUnicodeStripped(text))
+                QFAIL(qPrintable(QStringLiteral("sample %1 folds differently").arg(sample)));
+        }
+        const QString ligatures(1300, QChar(0xFDFA));
+        QCOMPARE(UnicodeStripped(ligatures), ReferenceUnicodeStripped(ligatures));
     }
 };
 

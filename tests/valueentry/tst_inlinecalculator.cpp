@@ -111,6 +111,23 @@ void tst_InlineCalculator::shouldEvaluate_data()
     QTest::newRow("multiple: empty separator ignored")
         << true << QStringList { QString(), QStringLiteral(" ") } << "12 3"
         << "valid 12 [1 1] [12 3]";
+
+    // What is evaluated per keystroke is bounded: parts together as long as one expression may be,
+    // each charged 16 characters more for its parse.
+    const QString part = QStringLiteral("1") + QStringLiteral("+1").repeated(55); // 111 characters
+    const QStringList eightParts(8, part);
+    const QString eightValids = QStringList(8, QStringLiteral("1")).join(QLatin1Char(' '));
+    const QString eightResults = QStringList(8, QStringLiteral("56")).join(QLatin1Char(' '));
+    QTest::newRow("multiple: parts within the length evaluated")
+        << true << spotlight << eightParts.join(QLatin1Char(';'))
+        << QStringLiteral("valid 56 [%1] [%2]").arg(eightValids, eightResults);
+    QTest::newRow("multiple: parts beyond the length counted, not evaluated")
+        << true << spotlight
+        << (eightParts + QStringList { part, QStringLiteral("1") }).join(QLatin1Char(' '))
+        << QStringLiteral("invalid 56 [%1 0 0] [%2 nan nan]").arg(eightValids, eightResults);
+    const QString longest = QStringLiteral("1") + QStringLiteral("+1").repeated(499); // 999 characters
+    QTest::newRow("multiple: the longest expression is one value")
+        << true << spotlight << longest << "valid 500 [1] [500]";
 }
 
 void tst_InlineCalculator::shouldEvaluate()

@@ -4,13 +4,16 @@ import QtQuick.Templates as T
 import BasicComponents.Constants
 import Orvo.QtExtensions
 
-// The application's message box: modal, centred in its window, closed by its one button or
-// by Escape. While it is open the host knows that a message box is shown, and components
-// that answer keys elsewhere (keyboard shortcuts) hold still until it is closed.
+// The application's message box: modal, centred in its window, closed by its button (or by one of
+// two, for a question: acceptText and rejectText) or by Escape. While it is open the host knows
+// that a message box is shown, and components that answer keys elsewhere (keyboard shortcuts) hold
+// still until it is closed. Buttons are as wide as their texts need.
 Controls.Dialog {
     id: box
     property alias text: message.text
     property string acceptText: "OK"
+    // A second button, for a question; none while empty.
+    property string rejectText: ""
 
     parent: T.Overlay.overlay
     anchors.centerIn: parent
@@ -60,8 +63,15 @@ Controls.Dialog {
         BasicButton {
             objectName: "messageBoxAccept"
             text: box.acceptText
-            implicitWidth: 88
+            implicitWidth: Math.max(88, implicitContentWidth + leftPadding + rightPadding)
             Controls.DialogButtonBox.buttonRole: Controls.DialogButtonBox.AcceptRole
+        }
+        BasicButton {
+            objectName: "messageBoxReject"
+            visible: box.rejectText.length > 0
+            text: box.rejectText
+            implicitWidth: Math.max(88, implicitContentWidth + leftPadding + rightPadding)
+            Controls.DialogButtonBox.buttonRole: Controls.DialogButtonBox.RejectRole
         }
     }
 }

@@ -3,11 +3,12 @@ import Qml.QtComponents
 import Qml.QtBasicComponents
 import BasicComponents.Constants
 import UIComponents.Constants
-import UIComponents.Utilities
+import Orvo.QtExtensions
 
 // A number field that also takes an expression. Text starting with "=" is evaluated at once by the
-// host calculator and its result shown under the field; accepting (Enter, or leaving the field)
-// stores the number, and an invalid or out-of-range result is marked and never stored.
+// host calculator, in the field's unit, and its result shown with the field; accepting (Enter, or
+// leaving the field) stores the number. The field never changes what was typed: text that stands
+// for no number it may store stays as typed, marked, with the reason, and the stored value is kept.
 FocusScope {
     id: root
 
@@ -17,37 +18,36 @@ FocusScope {
     // Bounds of the value, both included.
     property real minimum: -Infinity
     property real maximum: Infinity
-    // Decimals a typed number may have and the stored number is shown with.
+    // Decimals the stored number is shown with; a typed number keeps all of its own.
     property int decimals: UIComponentsConstants.calculatorDecimals
     property bool expressionAllowed: true
-    // Shown after the field, e.g. "mm"; the unit the value is in.
+    // The unit the value is in, shown after the field ("mm", "kN/m²"). An expression that names
+    // units is converted into it ("=30cm" in a mm field is 300); one without units is read in it.
     property string unit: ""
-    // How many SI base units one unit of the field is (0.001 for millimetres, pi/180 for degrees).
-    // An expression that names units is worked out in SI base units and converted to the field's
-    // unit; one without units is read in the field's unit, so "=2*150" in a mm field is 300 mm and
-    // so is "=30cm".
-    property real unitFactor: Common.unitFactor(unit)
     // Reserve this width for the unit, so that fields of a form line up whatever their units.
     property real unitMinimumWidth: 0
     property string placeholderText: ""
+    // Where the live result and the reasons for refusing a text show: by default on a line of
+    // their own under the field, so that they take room in the layout and cover nothing; inside
+    // the field's right end (elided) for rows that cannot grow.
+    property bool messageInside: false
 
     readonly property alias editText: field.text
     readonly property bool expressionMode: expressionAllowed && field.text.startsWith("=")
-    readonly property real expressionResult: Common.namesUnits(calculator.expression)
-                                             ? calculator.result / unitFactor : calculator.result
-    readonly property bool resultAcceptable: expressionMode && calculator.valid && fits(expressionResult)
-    readonly property alias calculator: calculator
+    // Whether the text stands for a number the field may store, that number, and what the field
+    // says about it: the live result of an expression or why the text cannot be stored.
+    readonly property bool acceptable: d.entry.acceptable
+    readonly property real entryValue: d.entry.value
+    readonly property string message: d.entry.message
 
     // The user stored a new number.
     signal valueAccepted(real value)
 
     // Stores what the field holds, when it is acceptable. Returns whether a number was stored.
     function accept() {
-        if (!d.edited)
+        if (!d.edited || !d.entry.acceptable)
             return false
-        const number = d.entryValue()
-        if (isNaN(number))
-            return false
+        const number = d.entry.value
         d.edited = false
         value = number
         d.showValue()
@@ -73,104 +73,113 @@ FocusScope {
     }
 
     implicitWidth: 160
-    implicitHeight: field.implicitHeight
-    // Above its siblings while the result shows, so the result is not hidden by the next row.
-    z: resultBox.visible ? 1 : 0
+    implicitHeight: field.implicitHeight + (messageLine.visible ? messageLine.implicitHeight + messageLine.anchors.topMargin : 0)
     activeFocusOnTab: true
 
     onValueChanged: if (!d.edited) d.showValue()
     onDecimalsChanged: if (!d.edited) d.showValue()
+    onIntegerChanged: if (!d.edited) d.showValue()
     Component.onCompleted: if (!d.edited) d.showValue()
+
+    Connections {
+        target: NumberFormat
+        function onChanged() {
+            if (!d.edited)
+                d.showValue()
+        }
+    }
 
     QtObject {
         id: d
         property bool edited: false
-        readonly property bool showsResult: root.expressionMode && calculator.expression.length > 0
+        readonly property bool hasText: field.text.trim().length > 0
+        // Shown while the user edits, and afterwards as long as the text stays refused.
+        readonly property bool showsMessage: entry.message.length > 0 && (field.activeFocus || (edited && !entry.acceptable))
 
-        function format(number) {
-            if (!isFinite(number))
-                return ""
-            return Common.formatNumber(number, root.integer ? 0 : root.decimals).replace(".", Qt.locale().decimalPoint)
+        readonly property var entry: {
+            if (!edited || !hasText)
+                return { acceptable: false, value: NaN, message: "" }
+            if (root.expressionMode) {
+                if (expression.expression.trim().length === 0)
+                    return { acceptable: false, value: NaN, message: "" }
+                if (!expression.valid)
+                    return refused(expression.message)
+                return checked(expression.value, "= ")
+            }
+            if (field.text.startsWith("="))
+                return refused(Strings.text("UI_NUMERIC_INPUT_NO_EXPRESSIONS"))
+            const number = NumberFormat.fromEditValue(field.text)
+            if (isNaN(number))
+                return refused(Strings.text("UI_NUMERIC_INPUT_NOT_A_NUMBER").arg(field.text.trim()))
+            return checked(number, "")
+        }
+
+        function refused(message) {
+            return { acceptable: false, value: NaN, message: message }
+        }
+
+        // The same verdict for a typed number and for an expression's result.
+        function checked(number, resultPrefix) {
+            if (root.integer && !Number.isInteger(number))
+                return refused(Strings.text("UI_NUMERIC_INPUT_NOT_WHOLE").arg(format(number)))
+            if (!(number >= root.minimum && number <= root.maximum))
+                return refused(Strings.text("UI_NUMERIC_INPUT_OUT_OF_RANGE").arg(format(number))
+                               .arg(bound(root.minimum)).arg(bound(root.maximum)))
+            const result = resultPrefix.length > 0
+                         ? resultPrefix + format(number) + (root.unit.length > 0 ? " " + root.unit : "") : ""
+            return { acceptable: true, value: number, message: result }
+        }
+
+        // The edit text of number; reading the decimal mark makes the bindings that show such text
+        // follow a change of the number format.
+        function format(number, decimals) {
+            return NumberFormat.decimalMark.length > 0 ? NumberFormat.toEditValue(number, decimals === undefined ? -1 : decimals) : ""
+        }
+
+        function bound(number) {
+            return isFinite(number) ? format(number) : (number < 0 ? "-\u221E" : "\u221E")
         }
 
         function showValue() {
-            field.text = format(root.value)
-        }
-
-        // The number the field's text stands for, NaN when it stands for none that may be stored.
-        function entryValue() {
-            if (root.expressionMode)
-                return root.resultAcceptable ? root.expressionResult : NaN
-            if (!field.acceptableInput)
-                return NaN
-            const number = parseNumber(field.text)
-            return root.fits(number) ? number : NaN
-        }
-
-        // The validators accept the locale's form and the C locale's; read both the same way.
-        function parseNumber(text) {
-            for (const locale of [Qt.locale(), Qt.locale("C")]) {
-                try {
-                    return Number.fromLocaleString(locale, text)
-                } catch (error) {
-                    // not in this locale's form
-                }
-            }
-            return NaN
-        }
-
-        function resultText() {
-            if (!calculator.valid)
-                return Strings.text("UI_INLINE_CALC_ERROR")
-            const result = root.expressionResult
-            if (root.integer && !Number.isInteger(result))
-                return Strings.text("UI_NUMERIC_INPUT_NOT_WHOLE").arg(calculator.formatValue(result))
-            if (!root.fits(result))
-                return Strings.text("UI_NUMERIC_INPUT_OUT_OF_RANGE").arg(calculator.formatValue(result))
-                    .arg(format(root.minimum) || "-\u221E").arg(format(root.maximum) || "\u221E")
-            return "= " + calculator.formatValue(result) + (root.unit.length > 0 ? " " + root.unit : "")
+            field.text = format(root.value, root.integer ? 0 : root.decimals)
         }
     }
 
-    InlineCalculator {
-        id: calculator
+    FieldExpression {
+        id: expression
         expression: root.expressionMode ? field.text.substring(1) : ""
-    }
-
-    RealValidator {
-        id: realValidator
-        expressionAllowed: root.expressionAllowed
-        bottom: root.minimum
-        top: root.maximum
-        decimals: root.decimals
-    }
-
-    IntegerValidator {
-        id: integerValidator
-        expressionAllowed: root.expressionAllowed
-        bottom: Math.max(Math.ceil(root.minimum), -2147483648)
-        top: Math.min(Math.floor(root.maximum), 2147483647)
+        unit: root.unit
     }
 
     BasicTextField {
         id: field
         objectName: "numericInputField"
-        anchors { left: parent.left; right: unitLabel.left; verticalCenter: parent.verticalCenter }
+        anchors { left: parent.left; right: unitLabel.left; top: parent.top }
         anchors.rightMargin: unitLabel.width > 0 ? BasicConstants.sizes.spacing : 0
         focus: true
         placeholderText: root.placeholderText
         horizontalAlignment: root.expressionMode ? TextInput.AlignLeft : TextInput.AlignRight
-        validator: root.integer ? integerValidator : realValidator
-        invalid: root.expressionMode ? d.showsResult && !root.resultAcceptable
-                                     : d.edited && text.length > 0 && !acceptableInput
+        rightPadding: 6 + (insideMessage.visible ? insideMessage.width + BasicConstants.sizes.spacing : 0)
+        invalid: d.edited && d.hasText && !d.entry.acceptable && d.entry.message.length > 0
 
         onTextEdited: d.edited = true
         onAccepted: root.accept()
         onActiveFocusChanged: {
-            if (!activeFocus && !root.accept())
+            // Leaving stores what can be stored and forgets an empty edit; refused text stays, marked.
+            if (!activeFocus && !root.accept() && !d.hasText)
                 root.revert()
         }
         Keys.onEscapePressed: root.revert()
+
+        BasicLabel {
+            id: insideMessage
+            objectName: "numericInputInsideMessage"
+            anchors { right: parent.right; rightMargin: 6; verticalCenter: parent.verticalCenter }
+            visible: root.messageInside && d.showsMessage
+            width: Math.min(implicitWidth, parent.width * 0.6)
+            text: visible ? d.entry.message : ""
+            color: d.entry.acceptable ? BasicConstants.colors.textSecondary : BasicConstants.colors.error
+        }
     }
 
     BasicLabel {
@@ -181,27 +190,16 @@ FocusScope {
         color: BasicConstants.colors.textSecondary
     }
 
-    // The live result floats under the field, like a tooltip, so that layouts do not jump.
-    Rectangle {
-        id: resultBox
-        objectName: "numericInputResult"
-        anchors { top: field.bottom; topMargin: 2; left: field.left }
-        z: 10
-        visible: d.showsResult && field.activeFocus
-        width: Math.max(resultText.implicitWidth + 2 * BasicConstants.sizes.spacing, field.width)
-        height: resultText.implicitHeight + BasicConstants.sizes.spacing
-        radius: BasicConstants.sizes.radius
-        color: root.resultAcceptable ? BasicConstants.colors.accentLight : BasicConstants.colors.errorLight
-        border.color: root.resultAcceptable ? BasicConstants.colors.accent : BasicConstants.colors.error
-
-        Text {
-            id: resultText
-            objectName: "numericInputResultText"
-            anchors { left: parent.left; leftMargin: BasicConstants.sizes.spacing; verticalCenter: parent.verticalCenter }
-            text: resultBox.visible ? d.resultText() : ""
-            font.family: BasicConstants.fonts.family
-            font.pixelSize: BasicConstants.fonts.normal
-            color: root.resultAcceptable ? BasicConstants.colors.text : BasicConstants.colors.error
-        }
+    // The live result or the reason, on a line of its own under the field.
+    Text {
+        id: messageLine
+        objectName: "numericInputResultText"
+        anchors { top: field.bottom; topMargin: 2; left: field.left; right: parent.right }
+        visible: !root.messageInside && d.showsMessage
+        text: d.showsMessage ? d.entry.message : ""
+        wrapMode: Text.WordWrap
+        font.family: BasicConstants.fonts.family
+        font.pixelSize: BasicConstants.fonts.small
+        color: d.entry.acceptable ? BasicConstants.colors.textSecondary : BasicConstants.colors.error
     }
 }

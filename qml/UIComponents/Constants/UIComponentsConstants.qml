@@ -20,6 +20,10 @@ QtObject {
     readonly property color markingMenuSliceDisabledHover: "#5b6478"
     readonly property color markingMenuCentre: "#1b2130"
     readonly property color markingMenuMark: "#b0ffffff"
+    readonly property color rubberBandStroke: BasicConstants.colors.textSecondary
+    // A band that selects what lies inside it, and one that selects whatever it touches.
+    readonly property color rubberBandWindow: "#141f6feb"
+    readonly property color rubberBandCrossing: "#141a7f37"
 
     readonly property int tableRowHeight: BasicConstants.sizes.rowHeight
     readonly property int tableHeaderHeight: 28
@@ -28,6 +32,8 @@ QtObject {
     readonly property int propertiesIndent: 14
     readonly property int markingMenuSize: 700
     readonly property int markingMenuTimeout: 20000
+    // How long the marking menu names a command that could not run before it closes.
+    readonly property int markingMenuRefusalTime: 1500
     // Decimals offered by numeric inputs that accept expressions.
     readonly property int calculatorDecimals: 4
 }

@@ -25,6 +25,8 @@ var ringOuterRadius = 240
 // A point this close to an axis or a diagonal of a ring is between two slices: none of them.
 var sliceDeadBand = 1
 var sliceSweep = 45
+// The gap left on each side of a drawn slice, in degrees.
+var sliceGapAngle = 0.8
 
 function distance(x, y) {
     return Math.sqrt(x * x + y * y)
@@ -124,4 +126,46 @@ function boxBeyond(angleDegrees, radius, width, height) {
     var direction = pointAt(angleDegrees, 1)
     var halfExtent = Math.abs(direction.x) * width / 2 + Math.abs(direction.y) * height / 2
     return pointAt(angleDegrees, radius + halfExtent)
+}
+
+// Outlines of what the menu draws, for a window that cannot be transparent and shows only these
+// polygons. Each is a list of points relative to (cx, cy); arcs are cut into steps of at most
+// three degrees, finer than a pixel at the rings' radii.
+function arcPoints(cx, cy, radius, startDegrees, sweepDegrees) {
+    var steps = Math.max(2, Math.ceil(Math.abs(sweepDegrees) / 3))
+    var points = []
+    for (var i = 0; i <= steps; ++i) {
+        var p = pointAt(startDegrees + sweepDegrees * i / steps, radius)
+        points.push(Qt.point(cx + p.x, cy + p.y))
+    }
+    return points
+}
+
+function discPolygon(cx, cy, radius) {
+    return arcPoints(cx, cy, radius, 0, 360)
+}
+
+// A slice of a ring as drawn: the annular sector between the radii, less its gaps.
+function slicePolygon(cx, cy, section, slice, innerRadius, outerRadius) {
+    var start = sliceStartAngle(section, slice) + sliceGapAngle
+    var sweep = sliceSweep - 2 * sliceGapAngle
+    return arcPoints(cx, cy, outerRadius + 1, start, sweep).concat(
+        arcPoints(cx, cy, innerRadius - 1, start + sweep, -sweep))
+}
+
+// A box with round ends (a pill), as the captions are drawn.
+function capsulePolygon(x, y, width, height) {
+    var radius = Math.min(width, height) / 2
+    var top = y + radius
+    var left = x + radius
+    var right = x + width - radius
+    return arcPoints(right, top, radius, -90, 180).concat(arcPoints(left, top, radius, 90, 180))
+}
+
+// A straight line of the given width.
+function linePolygon(x1, y1, x2, y2, width) {
+    var length = Math.max(distance(x2 - x1, y2 - y1), 1)
+    var nx = -(y2 - y1) / length * width / 2
+    var ny = (x2 - x1) / length * width / 2
+    return [Qt.point(x1 + nx, y1 + ny), Qt.point(x2 + nx, y2 + ny), Qt.point(x2 - nx, y2 - ny), Qt.point(x1 - nx, y1 - ny)]
 }

@@ -9,15 +9,26 @@ Item {
     required property int section
     property var sectionConfig: null
     property var helper: null
-    property int stateRevision: 0
     property int selectedSlice: MarkingMenuGeometry.noSlice
     property real innerRadius: MarkingMenuGeometry.ringInnerRadius
     property real outerRadius: MarkingMenuGeometry.ringOuterRadius
+
+    // The numbers of the slices that show a command, in order.
+    readonly property var shownSlices: {
+        const shown = []
+        for (let i = 0; i < slices.count; ++i) {
+            const slice = slices.itemAt(i)
+            if (slice && slice.commandVisible)
+                shown.push(slice.sliceNumber)
+        }
+        return shown
+    }
 
     width: outerRadius * 2
     height: outerRadius * 2
 
     Repeater {
+        id: slices
         model: MarkingMenuGeometry.sliceCount
 
         MarkingMenuSlice {
@@ -27,7 +38,6 @@ Item {
             commandUuid: ring.sectionConfig && index < ring.sectionConfig.commandUuids.length
                          ? ring.sectionConfig.commandUuids[index] : ""
             helper: ring.helper
-            stateRevision: ring.stateRevision
             selected: ring.selectedSlice === sliceNumber
             innerRadius: ring.innerRadius
             outerRadius: ring.outerRadius

@@ -4,7 +4,8 @@ import UIComponents.Constants
 import "MarkingMenuGeometry.js" as MarkingMenuGeometry
 
 // One slice of a ring: an annular sector with its command's icon and name. Its item covers the
-// whole ring, centred on the menu, so that every slice shares the menu's centre.
+// whole ring, centred on the menu, so that every slice shares the menu's centre. A slot without a
+// command the user can see is drawn as an outline only: plainly empty, never a blank button.
 Item {
     id: sliceItem
 
@@ -12,19 +13,37 @@ Item {
     required property int sliceNumber
     property string commandUuid: ""
     property var helper: null
-    // Bumped when the host's command states change, so the queries below are asked again.
-    property int stateRevision: 0
     property bool selected: false
     property real innerRadius: MarkingMenuGeometry.ringInnerRadius
     property real outerRadius: MarkingMenuGeometry.ringOuterRadius
 
-    readonly property bool commandVisible: stateRevision >= 0 && commandUuid !== "" && helper !== null
-                                           && helper.isItemVisible(commandUuid)
-    readonly property bool commandEnabled: commandVisible && stateRevision >= 0 && helper.isItemEnabled(commandUuid)
+    // What the host says of the command, asked again whenever it announces a change of states.
+    property bool commandVisible: false
+    property bool commandEnabled: false
+    property string commandIcon: ""
+    property string commandName: ""
 
-    readonly property real gapAngle: 0.8
-    readonly property real startAngle: MarkingMenuGeometry.sliceStartAngle(section, sliceNumber) + gapAngle
-    readonly property real sweepAngle: MarkingMenuGeometry.sliceSweep - 2 * gapAngle
+    function refresh() {
+        commandVisible = commandUuid !== "" && helper !== null && helper.isItemVisible(commandUuid)
+        commandEnabled = commandVisible && helper.isItemEnabled(commandUuid)
+        commandIcon = commandVisible ? helper.getCommandIcon(commandUuid) : ""
+        commandName = commandVisible ? helper.getCommandName(commandUuid) : ""
+    }
+
+    onCommandUuidChanged: refresh()
+    onHelperChanged: refresh()
+    Component.onCompleted: refresh()
+
+    Connections {
+        target: sliceItem.helper
+        function onCommandStateChanged() {
+            sliceItem.refresh()
+        }
+    }
+
+    readonly property real startAngle: MarkingMenuGeometry.sliceStartAngle(section, sliceNumber)
+                                       + MarkingMenuGeometry.sliceGapAngle
+    readonly property real sweepAngle: MarkingMenuGeometry.sliceSweep - 2 * MarkingMenuGeometry.sliceGapAngle
 
     width: outerRadius * 2
     height: outerRadius * 2
@@ -34,8 +53,10 @@ Item {
         antialiasing: true
 
         ShapePath {
-            strokeColor: "transparent"
-            fillColor: !sliceItem.commandVisible ? UIComponentsConstants.markingMenuSliceEmpty
+            strokeColor: sliceItem.commandVisible ? "transparent" : UIComponentsConstants.markingMenuSliceEmpty
+            strokeWidth: 1
+            strokeStyle: ShapePath.DashLine
+            fillColor: !sliceItem.commandVisible ? "transparent"
                      : !sliceItem.selected ? UIComponentsConstants.markingMenuSlice
                      : sliceItem.commandEnabled ? UIComponentsConstants.markingMenuSliceHover
                                                 : UIComponentsConstants.markingMenuSliceDisabledHover
@@ -67,8 +88,8 @@ Item {
         x: sliceItem.outerRadius + centre.x - width / 2
         y: sliceItem.outerRadius + centre.y - height / 2
         visible: sliceItem.commandVisible
-        iconSource: sliceItem.commandVisible ? sliceItem.helper.getCommandIcon(sliceItem.commandUuid) : ""
-        text: sliceItem.commandVisible ? sliceItem.helper.getCommandName(sliceItem.commandUuid) : ""
+        iconSource: sliceItem.commandIcon
+        text: sliceItem.commandName
         dimmed: !sliceItem.commandEnabled
     }
 }

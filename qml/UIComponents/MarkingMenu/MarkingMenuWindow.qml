@@ -1,12 +1,15 @@
 import QtQuick
 import QtQuick.Shapes
 import Qml.QtComponents
+import BasicComponents.Constants
 import UIComponents.Constants
 import "MarkingMenuGeometry.js" as MarkingMenuGeometry
 
 // The marking menu's window: frameless, transparent, on top, centred on the point where the
 // host asked for the menu. It follows the pointer while the secondary button is held, selects
-// a section and then a slice of its ring, and runs the slice's command when the menu hides.
+// a section and then a slice of its ring, and runs the slice's command when the menu hides; a
+// command that cannot run now is named instead, for a moment, before the menu closes. Where the
+// window system cannot show transparency, the window shows only what the menu draws.
 FramelessWindow {
     id: menuWindow
 
@@ -22,8 +25,10 @@ FramelessWindow {
     property int selectedSlice: MarkingMenuGeometry.noSlice
     property string selectedCommand: ""
     property point pointer: Qt.point(width / 2, height / 2)
-    property int stateRevision: 0
+    // The command the user released over while it could not run; shown until the menu closes.
+    property string refusedCommand: ""
     readonly property alias timeoutTimer: timeout
+    readonly property alias refusalTimer: refusal
 
     width: UIComponentsConstants.markingMenuSize
     height: UIComponentsConstants.markingMenuSize
@@ -43,6 +48,8 @@ FramelessWindow {
 
     function open() {
         config = controller.mmConfig
+        refusal.stop()
+        refusedCommand = ""
         clearSelection()
         pointer = Qt.point(width / 2, height / 2)
         visible = true
@@ -52,6 +59,8 @@ FramelessWindow {
 
     function dismiss() {
         timeout.stop()
+        refusal.stop()
+        refusedCommand = ""
         visible = false
     }
 
@@ -65,7 +74,7 @@ FramelessWindow {
     }
 
     function track(position) {
-        if (!visible)
+        if (!visible || refusedCommand !== "")
             return
         if (!controller.getPrimaryMouseButtonStatus()) {
             console.warn(">>> Hiding Marking menu as sudenly no RMB is detected.")
@@ -97,9 +106,15 @@ FramelessWindow {
 
         function onHideMarkingMenu() {
             const uuid = menuWindow.selectedCommand
-            if (uuid !== "" && menuWindow.controller.commandHelper.isItemEnabled(uuid))
-                menuWindow.controller.commandHelper.executeCommand(uuid)
+            const helper = menuWindow.controller.commandHelper
             menuWindow.clearSelection()
+            if (uuid !== "" && !helper.isItemEnabled(uuid) && menuWindow.visible) {
+                menuWindow.refusedCommand = uuid
+                refusal.restart()
+                return
+            }
+            if (uuid !== "")
+                helper.executeCommand(uuid)
             menuWindow.dismiss()
         }
 
@@ -113,7 +128,6 @@ FramelessWindow {
         target: menuWindow.controller.commandHelper
 
         function onCommandStateChanged() {
-            ++menuWindow.stateRevision
             menuWindow.selectedCommand = menuWindow.commandAt(menuWindow.selectedSection, menuWindow.selectedSlice)
         }
     }
@@ -122,6 +136,37 @@ FramelessWindow {
         id: timeout
         interval: UIComponentsConstants.markingMenuTimeout
         onTriggered: menuWindow.controller.markingMenuTimeout()
+    }
+
+    Timer {
+        id: refusal
+        interval: UIComponentsConstants.markingMenuRefusalTime
+        onTriggered: menuWindow.dismiss()
+    }
+
+    // Without a compositing window manager the transparent window would be an opaque square over
+    // the view: only the first level, the chosen ring, the captions, the mark and the refusal show.
+    maskPolygons: visible ? maskOutline() : []
+
+    function maskOutline() {
+        const cx = width / 2
+        const cy = height / 2
+        const polygons = [MarkingMenuGeometry.discPolygon(cx, cy, MarkingMenuGeometry.firstLevelOuterRadius + 1)]
+        const ring = rings.itemAt(selectedSection)
+        if (ring) {
+            for (const slice of ring.shownSlices)
+                polygons.push(MarkingMenuGeometry.slicePolygon(cx, cy, selectedSection, slice, ring.innerRadius, ring.outerRadius))
+        }
+        for (let i = 0; i < captions.count; ++i) {
+            const caption = captions.itemAt(i)
+            if (caption && caption.visible)
+                polygons.push(MarkingMenuGeometry.capsulePolygon(caption.x, caption.y, caption.width, caption.height))
+        }
+        if (mark.visible)
+            polygons.push(MarkingMenuGeometry.linePolygon(cx, cy, pointer.x, pointer.y, 4))
+        if (refusalNote.visible)
+            polygons.push(MarkingMenuGeometry.capsulePolygon(refusalNote.x, refusalNote.y, refusalNote.width, refusalNote.height))
+        return polygons
     }
 
     Shortcut {
@@ -137,6 +182,7 @@ FramelessWindow {
         anchors.fill: parent
 
         Repeater {
+            id: rings
             model: MarkingMenuGeometry.sectionCount
 
             MarkingMenuRing {
@@ -146,7 +192,6 @@ FramelessWindow {
                 visible: menuWindow.selectedSection === index
                 sectionConfig: index < menuWindow.sections.length ? menuWindow.sections[index] : null
                 helper: menuWindow.controller.commandHelper
-                stateRevision: menuWindow.stateRevision
                 selectedSlice: menuWindow.selectedSection === index ? menuWindow.selectedSlice
                                                                      : MarkingMenuGeometry.noSlice
             }
@@ -154,10 +199,12 @@ FramelessWindow {
 
         // The mark: where the pointer went since the menu opened.
         Shape {
+            id: mark
             anchors.fill: parent
             antialiasing: true
-            visible: MarkingMenuGeometry.distance(menuWindow.pointer.x - width / 2, menuWindow.pointer.y - height / 2)
-                     > MarkingMenuGeometry.firstLevelDeadRadius
+            visible: menuWindow.refusedCommand === ""
+                     && MarkingMenuGeometry.distance(menuWindow.pointer.x - width / 2, menuWindow.pointer.y - height / 2)
+                        > MarkingMenuGeometry.firstLevelDeadRadius
 
             ShapePath {
                 strokeColor: UIComponentsConstants.markingMenuMark
@@ -183,6 +230,7 @@ FramelessWindow {
         // Section captions: around the first level while none is chosen, then only the chosen
         // one, beyond the end of its ring.
         Repeater {
+            id: captions
             model: MarkingMenuGeometry.sectionCount
 
             MarkingMenuSectionCaption_UI {
@@ -200,6 +248,33 @@ FramelessWindow {
                 highlighted: chosen
                 text: sectionConfig ? Strings.text(sectionConfig.lcid) : ""
                 iconSource: chosen && sectionConfig ? sectionConfig.icon : ""
+            }
+        }
+
+        // Why nothing ran: the command under the pointer cannot run now.
+        Rectangle {
+            id: refusalNote
+            objectName: "markingMenuRefusal"
+            readonly property alias text: refusalText.text
+            x: (content.width - width) / 2
+            y: content.height / 2 + MarkingMenuGeometry.firstLevelOuterRadius + 46
+            width: Math.min(refusalText.implicitWidth + 24, content.width - 40)
+            height: refusalText.implicitHeight + 12
+            radius: height / 2
+            visible: menuWindow.refusedCommand !== ""
+            color: UIComponentsConstants.markingMenuRing
+            border.color: UIComponentsConstants.markingMenuSliceDisabledHover
+
+            Text {
+                id: refusalText
+                anchors.centerIn: parent
+                width: Math.min(implicitWidth, parent.width - 24)
+                elide: Text.ElideRight
+                text: refusalNote.visible ? Strings.text("UI_MARKING_MENU_COMMAND_UNAVAILABLE")
+                                            .arg(menuWindow.controller.commandHelper.getCommandName(menuWindow.refusedCommand)) : ""
+                color: UIComponentsConstants.markingMenuText
+                font.family: BasicConstants.fonts.family
+                font.pixelSize: BasicConstants.fonts.normal
             }
         }
     }

@@ -16,6 +16,9 @@ Item {
     readonly property bool mixed: rowModel.mixedRole
     readonly property var parameterNames: rowModel.parametersNamesRole
     readonly property var parameterValues: rowModel.parametersValuesRole
+    // The number field keeps room for a few digits and the unit; the parameter button takes the
+    // rest, so that a name such as "Permanent" shows whole.
+    readonly property real minimumFieldWidth: 96
     readonly property int matchedParameter: {
         const indices = rowModel.selectedParametersIndicesRole
         return indices.length === 1 ? indices[0] : -1
@@ -55,7 +58,7 @@ Item {
         objectName: "parameterButton"
         anchors { right: parent.right; verticalCenter: parent.verticalCenter }
         visible: root.parameterNames.length > 0
-        width: visible ? Math.min(Math.max(implicitWidth, 28), root.width / 3) : 0
+        width: visible ? Math.max(0, Math.min(Math.max(implicitWidth, 28), root.width - root.minimumFieldWidth - 2)) : 0
         leftPadding: 4
         rightPadding: 4
         enabled: root.rowModel.isEditableRole

@@ -110,6 +110,25 @@ PropertiesPanel_Cpp {
             }
         }
 
+        // Why the host refused the last value, until the next accepted one.
+        Rectangle {
+            objectName: "refusalMessage"
+            Layout.fillWidth: true
+            Layout.preferredHeight: refusalText.implicitHeight + 12
+            visible: propertiesPanel.message.length > 0
+            color: BasicConstants.colors.panelHeader
+            border.color: BasicConstants.colors.error
+            Text {
+                id: refusalText
+                anchors { fill: parent; margins: 6 }
+                text: propertiesPanel.message
+                wrapMode: Text.WordWrap
+                color: BasicConstants.colors.error
+                font.family: BasicConstants.fonts.family
+                font.pixelSize: BasicConstants.fonts.normal
+            }
+        }
+
         ListView {
             id: list
             objectName: "propertiesList"

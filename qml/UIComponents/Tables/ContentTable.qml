@@ -9,34 +9,131 @@ import UIComponents.Constants
 // A data table over a TableContentModel: sortable, resizable and movable columns, a filter bar,
 // spreadsheet selection, editors per content type, the new-row line, copy and paste, and the
 // multi-edit box. The view shows the model's filter model; the feeder behind the model is the host's.
+// Titles, filter fields and row numbers are header views synchronised with the table, so they
+// always stand where the table's columns and rows are.
 FocusScope {
     id: root
-    required property var contentModel
-    readonly property var table: contentModel?.contentFilterModel ?? null
-    readonly property var selection: table?.selectionModel ?? null
-    property int layoutRevision: 0
+    required property TableContentModel contentModel
+    readonly property TableContentFilterModel table: root.contentModel ? root.contentModel.contentFilterModel : null
+    readonly property TableSelectionFilterModel selection: root.table ? root.table.selectionModel : null
     readonly property int rowHeight: UIComponentsConstants.tableRowHeight
-    readonly property int verticalHeaderWidth: Math.max(table?.minVerticalHeaderWidth ?? 32, 12 + 8 * String(table?.rowCount ?? 0).length)
-
-    // Roles of TableContentModel, as QML sees them by number.
-    readonly property int roleContent: 257
-    readonly property int roleContentType: 262
-    readonly property int roleColumnId: 264
-    readonly property int roleColumnLabel: 265
-    readonly property int roleEditable: 267
-    readonly property int roleRequired: 268
-    readonly property int roleSortable: 269
-    readonly property int roleSortOrder: 270
+    readonly property int verticalHeaderWidth: Math.max(root.table ? root.table.minVerticalHeaderWidth : 32,
+                                                        12 + 8 * String(root.table ? root.table.rowCount : 0).length)
 
     FilterBarModel { id: ownFilterBar }
-    Component.onCompleted: if (contentModel && !contentModel.filterBarModel) contentModel.filterBarModel = ownFilterBar
+    Component.onCompleted: {
+        if (root.contentModel && !root.contentModel.filterBarModel)
+            root.contentModel.filterBarModel = ownFilterBar
+        keys.forceActiveFocus()
+    }
+
+    QtObject {
+        id: d
+        readonly property int pageRows: Math.max(1, Math.floor(tableView.height / root.rowHeight) - 1)
+        readonly property int scrollBarWidth: 14
+
+        function relayout() {
+            // Widths may change while the view lays out (a delivery widens a column): wait for it.
+            Qt.callLater(tableView.forceLayout)
+        }
+        function cellAt(item, x, y) {
+            const point = item.mapToItem(tableView.contentItem, x, y)
+            const cell = tableView.cellAtPosition(point.x, point.y)
+            return cell.x < 0 || cell.y < 0 ? null : root.table.index(cell.y, cell.x)
+        }
+        function moveCurrent(rows, columns) {
+            const current = root.selection.currentSelectedIndex
+            const row = current.valid ? Math.max(0, Math.min(root.table.rowCount - 1, current.row + rows)) : 0
+            const column = current.valid ? Math.max(0, Math.min(root.table.columnCount - 1, current.column + columns)) : 0
+            root.selection.select(root.table.index(row, column), TableSelectionModel.CleanSelect, true)
+        }
+        function moveCurrentTo(row) {
+            const current = root.selection.currentSelectedIndex
+            root.selection.select(root.table.index(row, current.valid ? current.column : 0), TableSelectionModel.CleanSelect, true)
+        }
+        function scrollBy(dx, dy) {
+            tableView.contentY = Math.max(0, Math.min(Math.max(0, tableView.contentHeight - tableView.height), tableView.contentY - dy))
+            tableView.contentX = Math.max(0, Math.min(Math.max(0, tableView.contentWidth - tableView.width), tableView.contentX - dx))
+        }
+        // The column a title dropped at sceneX lands before.
+        function dropColumn(fromColumn, sceneX) {
+            const point = tableView.contentItem.mapFromItem(null, sceneX, 0)
+            const target = tableView.cellAtPosition(point.x, tableView.contentY + 1).x
+            if (target >= 0 && target !== fromColumn)
+                root.table.moveColumn(fromColumn, target > fromColumn ? target + 1 : target)
+        }
+    }
+
+    function startEditing(text) {
+        const current = root.selection.currentSelectedIndex
+        if (!current.valid)
+            return
+        const isNewRow = current.row === root.table.newRowIndex
+        if (!isNewRow && !root.table.data(current, TableContentModel.EditableRole))
+            return
+        if (isNewRow)
+            root.contentModel.columnsModel.displayAllMandatoryColumns()
+        tableView.positionViewAtCell(current.column, current.row, TableView.Contain)
+        const item = tableView.itemAtCell(current.column, current.row)
+        if (!item)
+            return
+        if (!isNewRow && root.table.data(current, TableContentModel.ContentTypeRole) === TableContentModel.Bool) {
+            root.table.setData(current, !root.table.data(current, TableContentModel.ContentRole), TableContentModel.ContentRole)
+            root.table.confirmUpdate()
+            return
+        }
+        const topLeft = item.mapToItem(root, 0, 0)
+        editor.x = topLeft.x
+        editor.y = topLeft.y
+        editor.width = Math.max(item.width, 120)
+        editor.height = item.height
+        editor.open(current.row, current.column, isNewRow, text)
+    }
+
+    // The table's keys: every key a user presses on the table, and only there, comes here.
+    Item {
+        id: keys
+        focus: true
+        Keys.onPressed: event => {
+            const shift = event.modifiers & Qt.ShiftModifier
+            const ctrl = event.modifiers & Qt.ControlModifier
+            const step = { [Qt.Key_Up]: [-1, 0], [Qt.Key_Down]: [1, 0], [Qt.Key_Left]: [0, -1], [Qt.Key_Right]: [0, 1],
+                           [Qt.Key_PageUp]: [-d.pageRows, 0], [Qt.Key_PageDown]: [d.pageRows, 0] }[event.key]
+            if (ctrl && event.key === Qt.Key_Home) {
+                d.moveCurrentTo(0)
+            } else if (ctrl && event.key === Qt.Key_End) {
+                d.moveCurrentTo(root.table.rowCount - 1)
+            } else if (step) {
+                if (shift)
+                    root.selection.extendSelection(step[0], step[1])
+                else
+                    d.moveCurrent(step[0], step[1])
+            } else if (event.matches(StandardKey.SelectAll)) {
+                root.selection.selectAll()
+            } else if (event.matches(StandardKey.Copy)) {
+                root.table.copyToClipboard()
+            } else if (event.matches(StandardKey.Paste)) {
+                root.table.pasteFromClipboard()
+                root.table.confirmUpdate()
+            } else if (event.key === Qt.Key_F2 || event.key === Qt.Key_Return || event.key === Qt.Key_Enter
+                       || event.key === Qt.Key_Space) {
+                root.startEditing()
+            } else if (event.key === Qt.Key_Escape) {
+                root.selection.select(root.table.index(-1, -1), TableSelectionModel.CleanSelect)
+            } else if (!ctrl && event.text.length === 1 && event.text >= " ") {
+                root.startEditing(event.text)
+            } else {
+                return
+            }
+            event.accepted = true
+        }
+    }
 
     Connections {
         target: root.table
-        function onColumnWidthChanged() { root.relayout() }
-        function onColumnsLayoutChanged() { root.relayout() }
-        function onHeaderDataChanged() { root.layoutRevision++ }
-        function onColumnCountChanged() { root.relayout() }
+        function onColumnWidthChanged() { d.relayout() }
+        function onColumnsLayoutChanged() { d.relayout() }
+        function onColumnCountChanged() { d.relayout() }
     }
     Connections {
         target: root.selection
@@ -47,123 +144,21 @@ FocusScope {
         }
     }
 
-    function relayout() {
-        layoutRevision++
-        // Widths may change while the view is laying out (a delivery widens a column): wait for it.
-        Qt.callLater(tableView.forceLayout)
-    }
-    function indexAt(x, y) {
-        const point = root.mapToItem(tableView.contentItem, x, y)
-        const cell = tableView.cellAtPos(point.x, point.y)
-        return cell.x < 0 || cell.y < 0 ? null : table.index(cell.y, cell.x)
-    }
-    function currentIndex() {
-        return selection.currentSelectedIndex
-    }
-    function moveCurrent(rows, columns) {
-        const current = currentIndex()
-        const row = current.valid ? Math.max(0, Math.min(table.rowCount - 1, current.row + rows)) : 0
-        const column = current.valid ? Math.max(0, Math.min(table.columnCount - 1, current.column + columns)) : 0
-        selection.select(table.index(row, column), TableSelectionModel.CleanSelect, true)
-    }
-    function startEditing(text) {
-        const current = currentIndex()
-        if (!current.valid || !table.allowEdit && current.row !== table.newRowIndex)
-            return
-        const isNewRow = current.row === table.newRowIndex
-        if (!isNewRow && !table.data(current, roleEditable))
-            return
-        if (isNewRow)
-            contentModel.columnsModel.displayAllMandatoryColumns()
-        tableView.positionViewAtCell(current.column, current.row, TableView.Contain)
-        const item = tableView.itemAtCell(current.column, current.row)
-        if (!item)
-            return
-        if (!isNewRow && table.data(current, roleContentType) === TableContentModel.Bool) {
-            table.setData(current, !table.data(current, roleContent), roleContent)
-            table.confirmUpdate()
-            return
-        }
-        const topLeft = item.mapToItem(root, 0, 0)
-        editor.x = topLeft.x
-        editor.y = topLeft.y
-        editor.width = Math.max(item.width, 120)
-        editor.height = item.height
-        editor.row = current.row
-        editor.column = current.column
-        editor.newRow = isNewRow
-        editor.visible = true
-        editor.open(text !== undefined ? text : String(table.data(current, roleContent) ?? ""), text !== undefined)
-    }
-
     ColumnLayout {
         anchors.fill: parent
         spacing: 4
 
-        RowLayout {
+        TableToolBar {
             Layout.fillWidth: true
-            spacing: BasicConstants.sizes.spacing
-            MultiEditBox {
-                Layout.fillWidth: true
-                contentModel: root.contentModel
-                visible: root.table?.allowEdit ?? false
-            }
-            Item { Layout.fillWidth: true; visible: !(root.table?.allowEdit ?? false) }
-            BasicButton {
-                text: Strings.text("UI_TABLE_NARROW_COLUMNS")
-                onClicked: root.table.narrowAllColumns()
-            }
-            BasicButton {
-                text: Strings.text("UI_TABLE_EXTEND_COLUMNS")
-                onClicked: root.table.extendAllColumns()
-            }
-            BasicButton {
-                id: columnsButton
-                text: Strings.text("UI_TABLE_COLUMNS")
-                onClicked: columnsPopup.open()
-                Controls.Popup {
-                    id: columnsPopup
-                    y: columnsButton.height
-                    width: 220
-                    height: Math.min(360, columnsList.contentHeight + 44)
-                    ColumnLayout {
-                        anchors.fill: parent
-                        ListView {
-                            id: columnsList
-                            Layout.fillWidth: true
-                            Layout.fillHeight: true
-                            clip: true
-                            model: root.contentModel?.columnsModel ?? null
-                            delegate: BasicCheckBox {
-                                required property int index
-                                required property var model
-                                width: columnsList.width
-                                text: model.label
-                                checked: model.visible
-                                onToggled: root.contentModel.columnsModel.setData(root.contentModel.columnsModel.index(index, 0), checked, 259)
-                            }
-                        }
-                        BasicButton {
-                            Layout.fillWidth: true
-                            text: Strings.text("UI_TABLE_SHOW_ALL_COLUMNS")
-                            onClicked: root.contentModel.columnsModel.displayAllColumns()
-                        }
-                    }
-                }
-            }
-            BasicButton {
-                text: Strings.text("UI_TABLE_CLEAR_FILTERS")
-                enabled: root.table?.filterBarModel?.anyCondition ?? false
-                onClicked: root.table.filterBarModel.clearAll()
-            }
+            contentModel: root.contentModel
+            onDone: keys.forceActiveFocus()
         }
 
         // Column titles
         RowLayout {
             Layout.fillWidth: true
             Layout.fillHeight: false
-            Layout.preferredHeight: root.table?.horizontalHeaderHeight ?? 24
-            Layout.maximumHeight: root.table?.horizontalHeaderHeight ?? 24
+            Layout.preferredHeight: titles.implicitHeight
             spacing: 0
             Rectangle {
                 Layout.preferredWidth: root.verticalHeaderWidth
@@ -172,35 +167,28 @@ FocusScope {
                 border.color: UIComponentsConstants.tableGrid
                 MouseArea {
                     anchors.fill: parent
-                    onClicked: { root.selection.selectAll(); root.forceActiveFocus() }
+                    onClicked: { root.selection.selectAll(); keys.forceActiveFocus() }
                 }
             }
-            ListView {
-                id: header
+            Controls.HorizontalHeaderView {
+                id: titles
+                objectName: "columnTitles"
                 Layout.fillWidth: true
-                Layout.fillHeight: true
-                orientation: ListView.Horizontal
+                // A header view's implicit size is the table's content: the layout must not follow it.
+                Layout.preferredWidth: 100
+                Layout.preferredHeight: implicitHeight
+                Layout.rightMargin: d.scrollBarWidth
+                implicitHeight: root.table ? root.table.horizontalHeaderHeight : 24
+                syncView: tableView
+                // A title's own drag moves its column; the view must not take it for a flick.
                 interactive: false
                 clip: true
-                contentX: tableView.contentX
-                model: root.table?.columnCount ?? 0
                 delegate: TableHeaderCell {
-                    required property int index
-                    objectName: "headerCell_" + index
+                    id: title
                     table: root.table
-                    column: index
-                    width: { root.layoutRevision; return root.table?.columnWidth(index) ?? 0 }
-                    height: header.height
-                    label: { root.layoutRevision; return root.table?.headerData(index, Qt.Horizontal, root.roleColumnLabel) ?? "" }
-                    sortOrder: { root.layoutRevision; return root.table?.headerData(index, Qt.Horizontal, root.roleSortOrder) ?? 0 }
-                    sortable: { root.layoutRevision; return root.table?.headerData(index, Qt.Horizontal, root.roleSortable) ?? false }
-                    required: { root.layoutRevision; return root.table?.headerData(index, Qt.Horizontal, root.roleRequired) ?? false }
-                    onMoveRequested: (fromColumn, sceneX) => {
-                        const point = tableView.contentItem.mapFromItem(null, sceneX, 0)
-                        const target = tableView.cellAtPos(point.x, tableView.contentY + 1).x
-                        if (target >= 0 && target !== fromColumn)
-                            root.table.moveColumn(fromColumn, target > fromColumn ? target + 1 : target)
-                    }
+                    implicitHeight: titles.implicitHeight
+                    onDragMoved: sceneX => columnDrag.follow(title.columnLabel, sceneX)
+                    onDropped: sceneX => { columnDrag.visible = false; d.dropColumn(title.column, sceneX) }
                 }
             }
         }
@@ -209,8 +197,7 @@ FocusScope {
         RowLayout {
             Layout.fillWidth: true
             Layout.fillHeight: false
-            Layout.preferredHeight: root.rowHeight + 2
-            Layout.maximumHeight: root.rowHeight + 2
+            Layout.preferredHeight: filters.implicitHeight
             spacing: 0
             Rectangle {
                 Layout.preferredWidth: root.verticalHeaderWidth
@@ -219,16 +206,26 @@ FocusScope {
                 Text {
                     anchors.centerIn: parent
                     text: "⚲"
-                    color: root.table?.filterBarModel?.anyCondition ? BasicConstants.colors.accent
-                                                                                            : BasicConstants.colors.textSecondary
+                    color: root.table && root.table.filterBarModel && root.table.filterBarModel.anyCondition
+                           ? BasicConstants.colors.accent : BasicConstants.colors.textSecondary
                 }
             }
-            TableFilterBar {
+            Controls.HorizontalHeaderView {
+                id: filters
+                objectName: "filterBar"
                 Layout.fillWidth: true
-                Layout.fillHeight: true
-                table: root.table
-                widthsRevision: root.layoutRevision
-                contentX: tableView.contentX
+                Layout.preferredWidth: 100
+                Layout.preferredHeight: implicitHeight
+                Layout.rightMargin: d.scrollBarWidth
+                implicitHeight: root.rowHeight + 2
+                syncView: tableView
+                interactive: false
+                clip: true
+                delegate: TableFilterCell {
+                    table: root.table
+                    implicitHeight: filters.implicitHeight
+                    onFinished: keys.forceActiveFocus()
+                }
             }
         }
 
@@ -238,86 +235,57 @@ FocusScope {
             spacing: 0
 
             // Row numbers; a click selects the row, Shift extends, Ctrl toggles.
-            ListView {
-                id: rowHeader
+            Controls.VerticalHeaderView {
+                id: rowNumbers
                 Layout.preferredWidth: root.verticalHeaderWidth
                 Layout.fillHeight: true
+                Layout.preferredHeight: 100
+                Layout.bottomMargin: d.scrollBarWidth
+                syncView: tableView
                 interactive: false
                 clip: true
-                contentY: tableView.contentY
-                model: root.table?.rowCount ?? 0
-                delegate: Rectangle {
-                    required property int index
-                    width: rowHeader.width
-                    height: root.rowHeight
-                    property bool rowSelected: { root.layoutRevision; return root.selection?.isRowSelected(index) ?? false }
-                    property bool currentRow: { root.layoutRevision; return root.selection?.currentSelectedIndex.row === index }
-                    color: rowSelected ? UIComponentsConstants.tableSelection
-                                       : currentRow ? BasicConstants.colors.accentLight : UIComponentsConstants.tableHeader
-                    border.color: UIComponentsConstants.tableGrid
-                    Text {
-                        anchors { fill: parent; rightMargin: 6 }
-                        horizontalAlignment: Text.AlignRight
-                        verticalAlignment: Text.AlignVCenter
-                        text: { root.layoutRevision; return root.table?.headerData(index, Qt.Vertical, 0) ?? "" }
-                        font.family: BasicConstants.fonts.family
-                        font.pixelSize: BasicConstants.fonts.small
-                        color: BasicConstants.colors.textSecondary
-                    }
-                    MouseArea {
-                        anchors.fill: parent
-                        onClicked: mouse => {
-                            if (mouse.modifiers & Qt.ShiftModifier)
-                                root.selection.selectRowFromLast(index)
-                            else
-                                root.selection.selectRow(index, mouse.modifiers & Qt.ControlModifier ? TableSelectionModel.Toggle
-                                                                                                     : TableSelectionModel.CleanSelect)
-                            root.forceActiveFocus()
-                        }
-                    }
-                }
-                Connections {
-                    target: root.selection
-                    function onRegionCountChanged() { root.layoutRevision++ }
-                    function onCurrentSelectedIndexChanged() { root.layoutRevision++ }
-                    function onSelectedAllChanged() { root.layoutRevision++ }
+                delegate: TableRowHeaderCell {
+                    selection: root.selection
+                    implicitWidth: root.verticalHeaderWidth
+                    onClicked: keys.forceActiveFocus()
                 }
             }
 
-            TableView {
-                id: tableView
-                objectName: "contentTableView"
+            Item {
                 Layout.fillWidth: true
                 Layout.fillHeight: true
-                clip: true
-                interactive: false
-                boundsBehavior: Flickable.StopAtBounds
-                model: root.table
-                columnWidthProvider: column => { root.layoutRevision; return root.table?.columnWidth(column) ?? 0 }
-                rowHeightProvider: () => root.rowHeight
-                Controls.ScrollBar.vertical: Controls.ScrollBar { policy: Controls.ScrollBar.AsNeeded }
-                Controls.ScrollBar.horizontal: Controls.ScrollBar { policy: Controls.ScrollBar.AsNeeded }
-                delegate: TableCell {
-                    contentModel: root.contentModel
-                    newRow: row === (root.table?.newRowIndex ?? -1)
-                    editing: editor.visible && editor.row === row && editor.column === column
+
+                TableView {
+                    id: tableView
+                    objectName: "contentTableView"
+                    anchors { fill: parent; rightMargin: d.scrollBarWidth; bottomMargin: d.scrollBarWidth }
+                    clip: true
+                    interactive: false
+                    boundsBehavior: Flickable.StopAtBounds
+                    model: root.table
+                    columnWidthProvider: column => root.table ? root.table.columnWidth(column) : 0
+                    rowHeightProvider: () => root.rowHeight
+                    Controls.ScrollBar.vertical: verticalBar
+                    Controls.ScrollBar.horizontal: horizontalBar
+                    delegate: TableCell {
+                        newRow: row === (root.table ? root.table.newRowIndex : -1)
+                        editing: editor.visible && editor.row === row && editor.column === column
+                    }
                 }
 
+                // Clicks, drags and the wheel over the cells; the scroll bars keep their own.
                 MouseArea {
                     id: cellMouse
-                    anchors.fill: parent
+                    objectName: "cellMouse"
+                    anchors.fill: tableView
                     acceptedButtons: Qt.LeftButton
                     property var pressIndex: null
                     property bool dragging: false
                     property int dragMode: TableSelectionModel.CleanSelect
 
-                    function indexUnder(mouse) {
-                        const point = cellMouse.mapToItem(root, mouse.x, mouse.y)
-                        return root.indexAt(point.x, point.y)
-                    }
                     onPressed: mouse => {
-                        root.forceActiveFocus()
-                        const index = indexUnder(mouse)
+                        keys.forceActiveFocus()
+                        const index = d.cellAt(cellMouse, mouse.x, mouse.y)
                         pressIndex = index
                         dragging = false
                         if (!index)
@@ -332,7 +300,7 @@ FocusScope {
                     onPositionChanged: mouse => {
                         if (!pressed || !pressIndex)
                             return
-                        const index = indexUnder(mouse)
+                        const index = d.cellAt(cellMouse, mouse.x, mouse.y)
                         if (!index)
                             return
                         if (!dragging && (index.row !== pressIndex.row || index.column !== pressIndex.column)) {
@@ -347,63 +315,73 @@ FocusScope {
                             root.selection.endSelectRegion(false)
                         dragging = false
                     }
-                    onDoubleClicked: root.startEditing()
-                    onWheel: wheel => {
-                        const maxY = Math.max(0, tableView.contentHeight - tableView.height)
-                        const maxX = Math.max(0, tableView.contentWidth - tableView.width)
-                        tableView.contentY = Math.max(0, Math.min(maxY, tableView.contentY - wheel.angleDelta.y))
-                        tableView.contentX = Math.max(0, Math.min(maxX, tableView.contentX - wheel.angleDelta.x))
+                    onDoubleClicked: mouse => {
+                        const index = d.cellAt(cellMouse, mouse.x, mouse.y)
+                        if (index)
+                            root.startEditing()
                     }
+                    onWheel: wheel => d.scrollBy(wheel.angleDelta.x, wheel.angleDelta.y)
+                }
+
+                TableScrollBar {
+                    id: verticalBar
+                    objectName: "verticalScrollBar"
+                    orientation: Qt.Vertical
+                    anchors { top: parent.top; right: parent.right; bottom: parent.bottom; bottomMargin: d.scrollBarWidth }
+                    width: d.scrollBarWidth
+                }
+                TableScrollBar {
+                    id: horizontalBar
+                    objectName: "horizontalScrollBar"
+                    orientation: Qt.Horizontal
+                    anchors { left: parent.left; right: parent.right; bottom: parent.bottom; rightMargin: d.scrollBarWidth }
+                    height: d.scrollBarWidth
                 }
             }
         }
     }
 
+    // What a dragged title shows while it moves: the title under the pointer.
+    Rectangle {
+        id: columnDrag
+        objectName: "columnDragIndicator"
+        visible: false
+        z: 20
+        width: dragText.implicitWidth + 16
+        height: titles.height
+        radius: 3
+        opacity: 0.85
+        color: BasicConstants.colors.accentLight
+        border.color: BasicConstants.colors.accent
+        function follow(label, sceneX) {
+            dragText.text = label
+            const point = root.mapFromItem(null, sceneX, 0)
+            x = point.x - width / 2
+            y = titles.mapToItem(root, 0, 0).y
+            visible = true
+        }
+        Text {
+            id: dragText
+            anchors.centerIn: parent
+            font.family: BasicConstants.fonts.family
+            font.pixelSize: BasicConstants.fonts.normal
+            font.bold: true
+            color: BasicConstants.colors.text
+        }
+    }
+
     TableCellEditor {
         id: editor
+        objectName: "cellEditor"
         visible: false
         z: 10
         table: root.table
         contentModel: root.contentModel
         onFinished: accepted => {
-            visible = false
             if (accepted)
                 root.table.confirmUpdate()
-            root.forceActiveFocus()
-        }
-    }
-
-    Keys.onPressed: event => {
-        const shift = event.modifiers & Qt.ShiftModifier
-        const ctrl = event.modifiers & Qt.ControlModifier
-        const step = { [Qt.Key_Up]: [-1, 0], [Qt.Key_Down]: [1, 0], [Qt.Key_Left]: [0, -1], [Qt.Key_Right]: [0, 1],
-                       [Qt.Key_PageUp]: [-20, 0], [Qt.Key_PageDown]: [20, 0] }[event.key]
-        if (step) {
-            if (shift)
-                root.selection.extendSelection(step[0], step[1])
-            else
-                root.moveCurrent(step[0], step[1])
-            event.accepted = true
-        } else if (event.matches(StandardKey.SelectAll)) {
-            root.selection.selectAll()
-            event.accepted = true
-        } else if (event.matches(StandardKey.Copy)) {
-            root.table.copyToClipboard()
-            event.accepted = true
-        } else if (event.matches(StandardKey.Paste)) {
-            root.table.pasteFromClipboard()
-            root.table.confirmUpdate()
-            event.accepted = true
-        } else if (event.key === Qt.Key_F2 || event.key === Qt.Key_Return || event.key === Qt.Key_Enter
-                   || event.key === Qt.Key_Space) {
-            root.startEditing()
-            event.accepted = true
-        } else if (event.key === Qt.Key_Escape) {
-            root.selection.select(root.table.index(-1, -1), TableSelectionModel.CleanSelect)
-            event.accepted = true
-        } else if (!ctrl && event.text.length === 1 && event.text >= " ") {
-            root.startEditing(event.text)
-            event.accepted = true
+            // The editor lets go of the keys: the next key is the table's again.
+            keys.forceActiveFocus()
         }
     }
 }

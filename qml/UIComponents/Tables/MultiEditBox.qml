@@ -39,7 +39,13 @@ RowLayout {
         Layout.fillWidth: true
         placeholderText: Strings.text("UI_TABLE_MULTIPLE_EDITBOX_PLACEHOLDER")
         invalid: text.length > 0 && !(box.solver?.currentActionIsValid ?? false)
-        onTextChanged: if (box.solver) box.solver.expression = text
+        onTextChanged: {
+            if (box.solver)
+                box.solver.expression = text
+            // A report belongs to the search that made it, not to what is typed since.
+            if (box.search)
+                box.search.active = false
+        }
         Keys.onReturnPressed: box.apply()
         Keys.onEnterPressed: box.apply()
     }
@@ -50,7 +56,9 @@ RowLayout {
         onClicked: box.apply()
     }
     BasicLabel {
-        visible: box.search?.active ?? false
+        objectName: "searchReport"
+        // "0 of N" says nothing once the user has moved away from the matches.
+        visible: box.search ? box.search.active && (box.search.matchCount === 0 || box.search.currentMatchIndex >= 0) : false
         text: box.search?.report ?? ""
         color: (box.search?.matchCount ?? 0) > 0 ? BasicConstants.colors.textSecondary : BasicConstants.colors.error
     }

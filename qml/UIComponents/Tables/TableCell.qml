@@ -3,18 +3,17 @@ import Qml.QtComponents
 import BasicComponents.Constants
 import UIComponents.Constants
 
-// One cell of a content table, drawn by its content type; selection and highlight come from
-// the model's roles.
+// One cell of a content table, drawn by its content type from what the model prepared: the text
+// to show (numbers with their decimals, colour names), the swatch of a colour, selection and
+// highlight. Roles that the new-row line leaves undefined are taken as var.
 Rectangle {
     id: cell
     required property int row
     required property int column
+    required property string displayText
+    required property color swatchColor
     required property var content
     required property var contentType
-    required property var parameterIndex
-    required property var parametersNames
-    required property var allValues
-    required property var decimals
     required property var editable
     required property var selected
     required property var selectedActive
@@ -22,33 +21,24 @@ Rectangle {
     required property var highlightState
     required property var hasAction
     property bool newRow: false
-    property var contentModel: null // the TableContentModel, for the colour names
     property bool editing: false
+    readonly property bool isCheckBox: cell.contentType === TableContentModel.Bool && !cell.newRow
+    readonly property bool isColour: cell.contentType === TableContentModel.Color && !cell.newRow
 
-    readonly property string shownText: {
-        if (parameterIndex !== undefined && parameterIndex >= 0 && parametersNames && parameterIndex < parametersNames.length)
-            return parametersNames[parameterIndex]
-        if (content === undefined || content === null)
-            return ""
-        if (contentType === TableContentModel.Real && !newRow && typeof content === "number")
-            return decimals !== undefined ? content.toFixed(decimals) : String(content)
-        if (contentType === TableContentModel.Bool && !newRow)
-            return ""
-        return String(content)
-    }
-
+    implicitWidth: 64
+    implicitHeight: UIComponentsConstants.tableRowHeight
     color: {
-        if (selected === true)
+        if (cell.selected === true)
             return UIComponentsConstants.tableSelection
-        if (highlightState === TableContentModel.Error)
+        if (cell.highlightState === TableContentModel.Error)
             return BasicConstants.colors.errorLight
-        if (highlightState === TableContentModel.UserDefined)
+        if (cell.highlightState === TableContentModel.UserDefined)
             return UIComponentsConstants.tableHighlight
-        if (newRow)
+        if (cell.newRow)
             return UIComponentsConstants.tableNewRow
-        return editable === true ? BasicConstants.colors.panel : UIComponentsConstants.tableReadOnly
+        return cell.editable === true ? BasicConstants.colors.panel : UIComponentsConstants.tableReadOnly
     }
-    border.width: selectedActive === true ? 2 : 0
+    border.width: cell.selectedActive === true ? 2 : 0
     border.color: BasicConstants.colors.accent
 
     Rectangle { // the grid lines
@@ -62,60 +52,46 @@ Rectangle {
         color: UIComponentsConstants.tableGrid
     }
 
-    Text {
-        visible: !cell.editing && cell.contentType !== TableContentModel.Color && cell.contentType !== TableContentModel.Bool
-        anchors { fill: parent; leftMargin: 6; rightMargin: 6 }
-        verticalAlignment: Text.AlignVCenter
-        horizontalAlignment: (cell.contentType === TableContentModel.Integer || cell.contentType === TableContentModel.Real)
-                             ? Text.AlignRight : Text.AlignLeft
-        text: cell.shownText
-        elide: Text.ElideRight
-        font.family: BasicConstants.fonts.family
-        font.pixelSize: BasicConstants.fonts.normal
-        font.bold: cell.isBold === true
-        font.italic: cell.highlightState === TableContentModel.DefaultModified
-        color: cell.editable === true || cell.newRow ? BasicConstants.colors.text : BasicConstants.colors.textSecondary
-    }
-
-    // A check box for boolean cells; named states (Yes/No) are written out.
     Row {
-        visible: cell.contentType === TableContentModel.Bool && !cell.newRow
-        anchors { left: parent.left; leftMargin: 6; verticalCenter: parent.verticalCenter }
+        anchors { fill: parent; leftMargin: 6; rightMargin: 6 }
         spacing: 6
+        visible: !cell.editing
+        layoutDirection: cell.contentType === TableContentModel.Integer || cell.contentType === TableContentModel.Real
+                         ? Qt.RightToLeft : Qt.LeftToRight
+
+        // A check box for boolean cells.
         Rectangle {
+            visible: cell.isCheckBox
+            anchors.verticalCenter: parent.verticalCenter
             width: 14; height: 14; radius: 2
             border.color: BasicConstants.colors.border
             color: cell.content === true ? BasicConstants.colors.accent : BasicConstants.colors.panel
-            Text { anchors.centerIn: parent; text: cell.content === true ? "✓" : ""; color: "white"; font.pixelSize: 11 }
+            Text {
+                anchors.centerIn: parent
+                text: cell.content === true ? "✓" : ""
+                color: BasicConstants.colors.panel
+                font.pixelSize: BasicConstants.fonts.small
+            }
         }
-        Text {
-            text: cell.parametersNames && cell.parametersNames.length > 1 ? cell.parametersNames[cell.content === true ? 0 : 1] : ""
-            font.family: BasicConstants.fonts.family
-            font.pixelSize: BasicConstants.fonts.normal
-            color: BasicConstants.colors.text
-        }
-    }
-
-    // A colour swatch with the colour's name.
-    Row {
-        visible: cell.contentType === TableContentModel.Color && !cell.editing
-        anchors { left: parent.left; leftMargin: 6; verticalCenter: parent.verticalCenter }
-        spacing: 6
+        // The swatch of a colour cell.
         Rectangle {
+            visible: cell.isColour
+            anchors.verticalCenter: parent.verticalCenter
             width: 28; height: 14; radius: 2
-            color: parent.visible && cell.content ? cell.content : "transparent"
+            color: cell.swatchColor
             border.color: BasicConstants.colors.border
         }
         Text {
-            text: {
-                if (!cell.content || !cell.contentModel || !cell.allValues)
-                    return ""
-                const paletteIndex = cell.allValues.indexOf(cell.content)
-                return paletteIndex < 0 ? cell.content : Strings.text(cell.contentModel.getColorLcid(paletteIndex))
-            }
+            anchors.verticalCenter: parent.verticalCenter
+            width: parent.width - (cell.isCheckBox ? 20 : cell.isColour ? 34 : 0) - (cell.hasAction === true ? 16 : 0)
+            horizontalAlignment: parent.layoutDirection === Qt.RightToLeft ? Text.AlignRight : Text.AlignLeft
+            text: cell.displayText
+            elide: Text.ElideRight
             font.family: BasicConstants.fonts.family
             font.pixelSize: BasicConstants.fonts.normal
-            color: BasicConstants.colors.text
+            font.bold: cell.isBold === true
+            font.italic: cell.highlightState === TableContentModel.DefaultModified
+            color: cell.editable === true || cell.newRow ? BasicConstants.colors.text : BasicConstants.colors.textSecondary
         }
     }
 

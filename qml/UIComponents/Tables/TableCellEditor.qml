@@ -4,67 +4,85 @@ import Qml.QtComponents
 import Qml.QtBasicComponents
 import BasicComponents.Constants
 
-// The editor opened over a cell: a text field for texts and numbers (numbers may be expressions),
-// a list for named values, list choices and colours. It writes through the table model and
-// confirms at once, as the host expects one update per accepted edit.
+// The editor opened over a cell: a text field for texts and numbers (numbers may be expressions
+// with units, as in every numeric input), a list for named values, list choices and colours.
+// It writes through the table model; the table confirms each accepted edit, as the host expects
+// one update per edit. When it is done it lets go of the keys.
 Item {
     id: editor
-    property var table: null       // the TableContentFilterModel
-    property var contentModel: null // the TableContentModel, for colour names
+    property TableContentFilterModel table: null
+    property TableContentModel contentModel: null // for the colours' names
     property int row: -1
     property int column: -1
     property bool newRow: false
-    property var initialText: ""
+    property string initialText: ""
+    property int contentType: TableContentModel.Unknown
+    property var names: []
+    property var choices: []
+    readonly property bool usesList: !editor.newRow && editor.choices.length > 0
     signal finished(bool accepted)
 
-    readonly property var modelIndex: table && row >= 0 ? table.index(row, column) : null
-    readonly property int contentType: modelIndex ? (table.data(modelIndex, 262) ?? 0) : 0
-    readonly property var names: modelIndex ? (table.data(modelIndex, 260) ?? []) : []
-    readonly property var choices: {
-        if (!modelIndex)
-            return []
-        if (names && names.length > 0)
-            return names
-        const all = table.data(modelIndex, 258)
-        return all ? all : []
-    }
-    readonly property bool usesList: !newRow && choices.length > 0
+    function modelIndex() { return editor.table.index(editor.row, editor.column) }
+    function roleData(role) { return editor.table.data(editor.modelIndex(), role) }
 
-    // typed: the key that opened the editor (the text starts with it), or undefined to edit the value
-    function open(text, typed) {
-        initialText = text
-        if (usesList) {
-            combo.currentIndex = Math.max(0, combo.indexOfValue(String(table.data(modelIndex, 257))))
+    // typed: the text of the key that opened the editor (the edit starts with it), or undefined
+    // to edit the value the cell holds.
+    function open(row, column, newRow, typed) {
+        editor.row = row
+        editor.column = column
+        editor.newRow = newRow
+        editor.contentType = editor.roleData(TableContentModel.ContentTypeRole) ?? TableContentModel.Unknown
+        editor.names = editor.roleData(TableContentModel.ParametersNamesRole) ?? []
+        editor.choices = editor.names.length > 0 ? editor.names : (editor.roleData(TableContentModel.AllValuesRole) ?? [])
+        editor.initialText = editor.roleData(TableContentFilterModel.EditTextRole) ?? ""
+        editor.visible = true
+        if (editor.usesList) {
+            combo.currentIndex = Math.max(0, combo.indexOfValue(String(editor.roleData(TableContentModel.ContentRole))))
+            combo.forceActiveFocus()
             combo.popup.open()
-        } else {
-            field.invalid = false
-            field.text = text
-            if (typed)
-                field.cursorPosition = text.length
-            else
-                field.selectAll()
-            field.forceActiveFocus()
+            return
         }
+        field.invalid = false
+        if (typed !== undefined) {
+            field.text = typed
+            field.cursorPosition = typed.length
+        } else {
+            field.text = editor.newRow ? String(editor.roleData(TableContentModel.ContentRole) ?? "") : editor.initialText
+            field.selectAll()
+        }
+        field.forceActiveFocus()
+    }
+
+    function close(accepted) {
+        if (!editor.visible)
+            return
+        editor.visible = false
+        field.focus = false
+        combo.focus = false
+        editor.finished(accepted)
     }
 
     function commitText() {
-        const accepted = table.setData(modelIndex, field.text, 257)
-        if (!accepted && field.text !== String(initialText))
+        if (!editor.visible)
+            return
+        const accepted = editor.table.setData(editor.modelIndex(), field.text, TableContentModel.ContentRole)
+        if (!accepted && field.text !== editor.initialText)
             field.invalid = true
         else
-            editor.finished(true)
+            editor.close(true)
     }
 
     function commitChoice(index) {
-        if (names && names.length > 0)
-            table.setData(modelIndex, index, 259)
+        if (editor.names.length > 0)
+            editor.table.setData(editor.modelIndex(), index, TableContentModel.ParameterIndexRole)
         else
-            table.setData(modelIndex, choices[index], 257)
-        editor.finished(true)
+            editor.table.setData(editor.modelIndex(), editor.choices[index], TableContentModel.ContentRole)
+        editor.close(true)
     }
 
     BasicTextField {
         id: field
+        objectName: "cellEditorField"
         visible: !editor.usesList
         anchors.fill: parent
         horizontalAlignment: editor.contentType === TableContentModel.Integer || editor.contentType === TableContentModel.Real
@@ -73,8 +91,8 @@ Item {
         Keys.onReturnPressed: editor.commitText()
         Keys.onEnterPressed: editor.commitText()
         Keys.onTabPressed: editor.commitText()
-        Keys.onEscapePressed: editor.finished(false)
-        onActiveFocusChanged: if (!activeFocus && visible && editor.visible) editor.commitText()
+        Keys.onEscapePressed: editor.close(false)
+        onActiveFocusChanged: if (!activeFocus && editor.visible && !editor.usesList) editor.commitText()
     }
 
     BasicComboBox {
@@ -83,6 +101,7 @@ Item {
         anchors.fill: parent
         model: editor.choices
         delegate: Controls.ItemDelegate {
+            id: choice
             required property int index
             required property var modelData
             width: combo.width
@@ -92,18 +111,18 @@ Item {
                     visible: editor.contentType === TableContentModel.Color
                     width: 24; height: 14; radius: 2
                     anchors.verticalCenter: parent.verticalCenter
-                    color: visible ? modelData : "transparent"
+                    color: visible ? choice.modelData : BasicConstants.colors.panel
                     border.color: BasicConstants.colors.border
                 }
                 Text {
                     text: editor.contentType === TableContentModel.Color && editor.contentModel
-                          ? Strings.text(editor.contentModel.getColorLcid(index)) : modelData
+                          ? Strings.text(editor.contentModel.getColorLcid(choice.index)) : choice.modelData
                     font.family: BasicConstants.fonts.family
                     font.pixelSize: BasicConstants.fonts.normal
                 }
             }
         }
         onActivated: index => editor.commitChoice(index)
-        popup.onClosed: if (editor.visible) editor.finished(false)
+        popup.onClosed: editor.close(false)
     }
 }

@@ -1,0 +1,6 @@
+import QtQuick
+
+// The circle drawing of a cross-section.
+SectionDrawing {
+    shape: "circle"
+}

@@ -1,0 +1,6 @@
+import QtQuick
+
+// The tube drawing of a cross-section.
+SectionDrawing {
+    shape: "tube"
+}

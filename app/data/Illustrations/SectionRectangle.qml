@@ -1,0 +1,6 @@
+import QtQuick
+
+// The rectangle drawing of a cross-section.
+SectionDrawing {
+    shape: "rectangle"
+}

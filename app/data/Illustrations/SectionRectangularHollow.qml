@@ -1,0 +1,6 @@
+import QtQuick
+
+// The box drawing of a cross-section.
+SectionDrawing {
+    shape: "box"
+}

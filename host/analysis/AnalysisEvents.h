@@ -1,0 +1,18 @@
+#pragma once
+
+#include <QString>
+#include <cstdint>
+
+namespace Orvo::Kernel::Analysis {
+
+// Posted when an analysis ended, however it ended; message says how, in the user's language.
+struct AnalysisFinishedEvent
+{
+    bool succeeded = false;
+    bool cancelled = false;
+    QString message;
+    std::int32_t degreesOfFreedom = 0;
+    double seconds = 0.0;
+};
+
+} // namespace Orvo::Kernel::Analysis

@@ -1,0 +1,79 @@
+#pragma once
+
+#include "HostKitExport.h"
+
+#include <QHash>
+#include <QString>
+#include <QVariant>
+#include <filesystem>
+#include <memory>
+#include <mutex>
+
+namespace Orvo::Kernel::Framework {
+class EventBus;
+}
+
+namespace Orvo::UI::DataModel {
+
+// The user's application settings: kept in one INI file of the user configuration directory,
+// written as soon as a value changes, and announced on the event bus (SettingChangedEvent).
+//
+// A reader passes the default it would use itself; a setting the user never set, or one whose
+// stored text is not a value of the setting's kind and range (a hand-edited file), gives that
+// default back. A setter refuses such values, logs why and keeps the old one.
+class HOSTKIT_EXPORT Settings
+{
+public:
+    // Degrees the camera turns per pixel of a drag.
+    static inline const QString c_rotationSensitivity = QStringLiteral("Interaction/RotationSensitivity");
+    // The part of the distance to the target one wheel notch moves the camera.
+    static inline const QString c_zoomSensitivity = QStringLiteral("Interaction/ZoomSensitivity");
+    // Zooming moves along the line of sight rather than towards the pointer.
+    static inline const QString c_zoomFollowCameraDirection
+        = QStringLiteral("Interaction/ZoomFollowCameraDirection");
+    // The nearest and farthest distance in metres the camera may come to its target.
+    static inline const QString c_zoomNearestLimit = QStringLiteral("Interaction/ZoomNearestLimit");
+    static inline const QString c_zoomFarthestLimit = QStringLiteral("Interaction/ZoomFarthestLimit");
+    // How far in pixels from an object a click still picks it.
+    static inline const QString c_objectPickingRadius = QStringLiteral("Interaction/ObjectPickingRadius");
+    // Which renderer draws the model views (Orvo::Graphic::RendererType).
+    static inline const QString c_rendererType = QStringLiteral("Graphics/RendererType");
+
+    explicit Settings(std::filesystem::path file,
+                      std::shared_ptr<Kernel::Framework::EventBus> eventBus = nullptr);
+    ~Settings();
+    Settings(const Settings&) = delete;
+    Settings& operator=(const Settings&) = delete;
+
+    double GetRotationSensitivity(double defaultValue) const;
+    double GetZoomSensitivity(double defaultValue) const;
+    bool GetZoomFollowCameraDirection(bool defaultValue) const;
+    double GetZoomNearestLimit(double defaultValue) const;
+    double GetZoomFarthestLimit(double defaultValue) const;
+    double GetObjectPickingRadius(double defaultValue) const;
+    int GetRendererType(int defaultValue) const;
+
+    // The stored value of a known setting, converted to its kind; invalid when the user never
+    // set it or the stored text is not acceptable.
+    QVariant Value(const QString& key) const;
+    // False (and nothing changes) for an unknown key or a value out of the setting's range.
+    bool SetValue(const QString& key, const QVariant& value);
+    // Forgets the user's value: readers get their default again.
+    void Reset(const QString& key);
+
+    const std::filesystem::path& File() const { return m_file; }
+
+private:
+    double Number(const QString& key, double defaultValue) const;
+    void Write() const;
+    void Announce(const QString& key) const;
+
+    std::filesystem::path m_file;
+    std::shared_ptr<Kernel::Framework::EventBus> m_eventBus;
+    QHash<QString, QVariant> m_values;
+    // Views read their interaction settings on the GUI thread, the renderer choice is read on
+    // render threads.
+    mutable std::mutex m_mutex;
+};
+
+} // namespace Orvo::UI::DataModel
