@@ -20,6 +20,7 @@ target_sources(QtComponentsCore PRIVATE
     ${CMAKE_CURRENT_LIST_DIR}/TableColumnsModel.h ${CMAKE_CURRENT_LIST_DIR}/TableColumnsModel.cpp
     ${CMAKE_CURRENT_LIST_DIR}/TableSelectionRegion.h ${CMAKE_CURRENT_LIST_DIR}/TableSelectionRegion.cpp
     ${CMAKE_CURRENT_LIST_DIR}/TableSelectionView.h
+    ${CMAKE_CURRENT_LIST_DIR}/TableSelectionState.h ${CMAKE_CURRENT_LIST_DIR}/TableSelectionState.cpp
     ${CMAKE_CURRENT_LIST_DIR}/TableSelectionModel.h ${CMAKE_CURRENT_LIST_DIR}/TableSelectionModel.cpp
     ${CMAKE_CURRENT_LIST_DIR}/TableSelectionFilterModel.h ${CMAKE_CURRENT_LIST_DIR}/TableSelectionFilterModel.cpp
     ${CMAKE_CURRENT_LIST_DIR}/TableColumnLayout.h ${CMAKE_CURRENT_LIST_DIR}/TableColumnLayout.cpp
