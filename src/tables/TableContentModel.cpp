@@ -440,7 +440,7 @@ bool TableContentModel::SetCellValue(int row, int column, QVariant value, int ro
     } else if (value.typeId() == QMetaType::QString) {
         // Typed text: numbers may be expressions, named values are matched case-insensitively.
         value = TableCellText::CreateContentUpdateValue(value.toString(), type, cell.parametersNames,
-                                                        TableNumberText());
+                                                        TableNumberText(), m_layout.At(column).unit);
         if (value.toString().isNull())
             return false;
     }
@@ -455,6 +455,19 @@ bool TableContentModel::SetCellValue(int row, int column, QVariant value, int ro
     const QModelIndex changed = index(row, column);
     emit dataChanged(changed, changed, { role, ContentRole, TableContentFilterModel::DisplayTextRole });
     return true;
+}
+
+QString TableContentModel::TypedTextRefusal(int row, int column, const QString& text) const
+{
+    if (!m_layout.Contains(column) || row < 0 || row > m_rowCountSubmitted)
+        return {};
+    return CatchAtBoundary("TableContentModel::TypedTextRefusal", QString(), [&]() {
+        const QStringList names = IsNewRow(row)
+            ? QStringList()
+            : EnsureData(row, column, ContentRequest::VisibleColumns).parametersNames;
+        const TableValueType type = IsNewRow(row) ? m_layout.At(column).type : GetValueType(row, column);
+        return TableCellText::ReadTyped(text, type, names, TableNumberText(), m_layout.At(column).unit).reason;
+    });
 }
 
 bool TableContentModel::SetDataForNewRow(int column, const QVariant& value, int role)
