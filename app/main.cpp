@@ -36,6 +36,19 @@ bool HasArgument(int argc, char** argv, const char* argument, const char* value 
     return false;
 }
 
+// The build keeps the shipped files (Configuration/, illustrations, images) beside the executable
+// and its import directory beside bin/; an install keeps them in its data and QML directories.
+bool RunsFromBuildTree()
+{
+    return QDir(QGuiApplication::applicationDirPath()).exists(QStringLiteral("Configuration"));
+}
+
+QString FromExecutable(const char* relativePath)
+{
+    return QDir::cleanPath(
+        QDir(QGuiApplication::applicationDirPath()).absoluteFilePath(QString::fromUtf8(relativePath)));
+}
+
 } // namespace
 
 int main(int argc, char** argv)
@@ -62,8 +75,9 @@ int main(int argc, char** argv)
         return 2;
     }
 
-    auto services = Orvo::Kernel::Framework::HostApplication::Start(
-        Orvo::Kernel::Directories::ToPath(QGuiApplication::applicationDirPath()));
+    const bool fromBuildTree = RunsFromBuildTree();
+    auto services = Orvo::Kernel::Framework::HostApplication::Start(Orvo::Kernel::Directories::ToPath(
+        fromBuildTree ? QGuiApplication::applicationDirPath() : FromExecutable(QTC_INSTALLED_DATA_DIR)));
     // The demo's model: a multi-storey building whose objects the pages select, edit and analyse.
     const auto building = options.modelSize > 0
         ? Orvo::Kernel::Model::BuildingOptions::ForMemberCount(options.modelSize)
@@ -87,9 +101,7 @@ int main(int argc, char** argv)
     CommandActivity commandActivity;
     ViewControls viewControls;
     QQmlApplicationEngine engine;
-    // The build lays the QML import directory out beside bin/.
-    engine.addImportPath(
-        QDir(QGuiApplication::applicationDirPath()).absoluteFilePath(QStringLiteral("../qml")));
+    engine.addImportPath(FromExecutable(fromBuildTree ? "../qml" : QTC_INSTALLED_QML_DIR));
     // The shell's context: what panels publish there (the hotkey handler's model) every page sees.
     services->Get<Orvo::UI::QtExtensions::ShellQmlContext>()->SetContext(engine.rootContext());
     engine.rootContext()->setContextProperty(QStringLiteral("initialPage"), options.page);
