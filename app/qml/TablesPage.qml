@@ -3,6 +3,7 @@ import QtQuick.Layouts
 import Qml.QtComponents
 import Qml.QtBasicComponents
 import BasicComponents.Constants
+import UIComponents.Tables
 import Demo
 
 // One table view, two kinds of feeder. First 100,000 structural members fed by the demo's table

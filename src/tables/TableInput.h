@@ -5,6 +5,7 @@
 #include "qtextensions/UIComponent.h"
 
 #include <QString>
+#include <QtQml/qqmlregistration.h>
 #include <memory>
 
 namespace Orvo::Kernel::Tables {
@@ -23,6 +24,7 @@ namespace Orvo::UI::UIComponents {
 class TableInput : public QtExtensions::UIComponent
 {
     Q_OBJECT
+    QML_NAMED_ELEMENT(TableInput_Cpp)
     Q_PROPERTY(QString tableId READ tableId WRITE setTableId NOTIFY tableIdChanged)
     Q_PROPERTY(QString label READ label NOTIFY tableIdChanged)
     // Every input table of the host, to choose from, with their labels in the same order.
