@@ -4,6 +4,7 @@
 #include "properties/PropertyValue.h"
 
 #include <QAbstractListModel>
+#include <QtQml/qqmlregistration.h>
 #include <memory>
 #include <unordered_set>
 
@@ -17,6 +18,7 @@ class StructuralModel;
 class SampleObjectsModel : public QAbstractListModel
 {
     Q_OBJECT
+    QML_NAMED_ELEMENT(SampleObjectsModel)
     Q_PROPERTY(QString kind READ kind WRITE setKind NOTIFY kindChanged)
     Q_PROPERTY(QStringList kinds READ kinds CONSTANT)
     Q_PROPERTY(QStringList kindNames READ kindNames CONSTANT)

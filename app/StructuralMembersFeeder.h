@@ -4,6 +4,7 @@
 
 #include <QHash>
 #include <QObject>
+#include <QtQml/qqmlregistration.h>
 #include <map>
 #include <vector>
 
@@ -14,6 +15,7 @@
 class StructuralMembersFeeder : public QObject
 {
     Q_OBJECT
+    QML_NAMED_ELEMENT(StructuralMembersFeeder)
     Q_PROPERTY(Orvo::UI::UIComponents::TableContentModel* model READ GetModel CONSTANT)
 
 public:

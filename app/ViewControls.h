@@ -5,6 +5,7 @@
 
 #include <QObject>
 #include <QString>
+#include <QtQml/qqmlregistration.h>
 #include <memory>
 
 namespace Orvo::Graphic {
@@ -22,6 +23,7 @@ class AnalysisService;
 class ViewControls : public QObject
 {
     Q_OBJECT
+    QML_NAMED_ELEMENT(ViewControls)
     Q_PROPERTY(int viewportId READ viewportId WRITE setViewportId NOTIFY viewportIdChanged)
     Q_PROPERTY(bool extrudedSections READ extrudedSections WRITE setExtrudedSections NOTIFY displayChanged)
     Q_PROPERTY(bool loads READ loads WRITE setLoads NOTIFY displayChanged)

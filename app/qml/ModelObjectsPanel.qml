@@ -37,7 +37,7 @@ BasicPanel {
                 objectName: "objectKind"
                 Layout.preferredWidth: 170
                 model: objects.kindNames
-                currentIndex: objects.kinds.indexOf(objects.kind)
+                currentIndex: Array.from(objects.kinds).indexOf(objects.kind)
                 onActivated: index => objects.kind = objects.kinds[index]
             }
             BasicLabel {

@@ -13,7 +13,7 @@ StackLayout {
     signal pageRequested(string name)
 
     function pageItem(index) {
-        const loader = pageRepeater.itemAt(index)
+        const loader = pageRepeater.itemAt(index) as Loader
         return loader ? loader.item : null
     }
 

@@ -45,7 +45,7 @@ Item {
                         objectName: "objectKindBox"
                         Layout.preferredWidth: 170
                         model: objects.kindNames
-                        currentIndex: objects.kinds.indexOf(objects.kind)
+                        currentIndex: Array.from(objects.kinds).indexOf(objects.kind)
                         onActivated: (index) => objects.kind = objects.kinds[index]
                     }
                     BasicLabel { text: Strings.text("UI_DEMO_SELECT") }

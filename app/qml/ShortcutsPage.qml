@@ -66,7 +66,7 @@ Item {
                     Layout.fillHeight: true
                     clip: true
                     Controls.ScrollBar.vertical: Controls.ScrollBar {
-                        policy: parent.contentHeight > parent.height ? Controls.ScrollBar.AlwaysOn : Controls.ScrollBar.AlwaysOff
+                        policy: commandList.contentHeight > commandList.height ? Controls.ScrollBar.AlwaysOn : Controls.ScrollBar.AlwaysOff
                     }
                     model: commands
                     currentIndex: 0
@@ -241,7 +241,7 @@ Item {
                     anchors { fill: parent; margins: 8 }
                     clip: true
                     Controls.ScrollBar.vertical: Controls.ScrollBar {
-                        policy: parent.contentHeight > parent.height ? Controls.ScrollBar.AlwaysOn : Controls.ScrollBar.AlwaysOff
+                        policy: bindingsList.contentHeight > bindingsList.height ? Controls.ScrollBar.AlwaysOn : Controls.ScrollBar.AlwaysOff
                     }
                     model: hotkeyHandlerModel
                     delegate: RowLayout {
@@ -282,11 +282,12 @@ Item {
                 }
 
                 ListView {
+                    id: runLogList
                     objectName: "commandRunLog"
                     anchors { fill: parent; margins: 8 }
                     clip: true
                     Controls.ScrollBar.vertical: Controls.ScrollBar {
-                        policy: parent.contentHeight > parent.height ? Controls.ScrollBar.AlwaysOn : Controls.ScrollBar.AlwaysOff
+                        policy: runLogList.contentHeight > runLogList.height ? Controls.ScrollBar.AlwaysOn : Controls.ScrollBar.AlwaysOff
                     }
                     model: runLog
                     delegate: RowLayout {

@@ -47,7 +47,7 @@ QRegion ToRegion(const QVariantList& polygons)
 } // namespace
 
 FramelessWindow::FramelessWindow(QWindow* parent)
-    : QQuickWindowQmlImpl(parent)
+    : QQuickWindow(parent)
 {
     setFlags(Qt::Window | Qt::FramelessWindowHint | Qt::NoDropShadowWindowHint);
     // Without an alpha channel the transparent parts of a popup come out black.
@@ -55,6 +55,26 @@ FramelessWindow::FramelessWindow(QWindow* parent)
     surfaceFormat.setAlphaBufferSize(8);
     setFormat(surfaceFormat);
     setColor(Qt::transparent);
+    connect(this, &QWindow::visibleChanged, this, &FramelessWindow::visibleChanged);
+}
+
+void FramelessWindow::setVisible(bool visible)
+{
+    m_visibleRequested = visible;
+    if (m_complete)
+        QQuickWindow::setVisible(visible);
+}
+
+void FramelessWindow::classBegin()
+{
+    m_complete = false;
+}
+
+void FramelessWindow::componentComplete()
+{
+    m_complete = true;
+    if (m_visibleRequested != isVisible())
+        QQuickWindow::setVisible(m_visibleRequested);
 }
 
 bool FramelessWindow::grabsPointer() const
@@ -103,12 +123,12 @@ bool FramelessWindow::event(QEvent* event)
         const auto* mouseEvent = static_cast<QMouseEvent*>(event);
         emit pointerReleased(mouseEvent->position(), static_cast<int>(mouseEvent->button()));
     }
-    return QQuickWindowQmlImpl::event(event);
+    return QQuickWindow::event(event);
 }
 
 void FramelessWindow::exposeEvent(QExposeEvent* event)
 {
-    QQuickWindowQmlImpl::exposeEvent(event);
+    QQuickWindow::exposeEvent(event);
     // A grab needs a window the system shows, so it is taken once the window is exposed.
     UpdatePointerGrab();
 }
@@ -117,13 +137,13 @@ void FramelessWindow::showEvent(QShowEvent* event)
 {
     // A compositing manager may have come or gone since the window was last shown.
     UpdateTranslucency();
-    QQuickWindowQmlImpl::showEvent(event);
+    QQuickWindow::showEvent(event);
 }
 
 void FramelessWindow::hideEvent(QHideEvent* event)
 {
     setMouseGrabEnabled(false);
-    QQuickWindowQmlImpl::hideEvent(event);
+    QQuickWindow::hideEvent(event);
 }
 
 void FramelessWindow::UpdatePointerGrab()

@@ -2,8 +2,9 @@
 
 #include "HostKitExport.h"
 
+#include <QQmlParserStatus>
+#include <QQuickWindow>
 #include <QVariant>
-#include <QtQuick/private/qquickwindowmodule_p.h>
 
 namespace Orvo::UI::QtExtensions {
 
@@ -20,9 +21,14 @@ namespace Orvo::UI::QtExtensions {
 // one (plain X servers, many remote desktops) its transparent pixels come out black. The window
 // then falls back to a mask: only the polygons in maskPolygons are shown, so a popup that draws
 // rings shows only its rings.
-class HOSTKIT_EXPORT FramelessWindow : public QQuickWindowQmlImpl
+//
+// Declared in QML, the window shows itself only once the whole declaration is applied, so a
+// window declared visible opens at its declared geometry, flags and colour, not at defaults.
+class HOSTKIT_EXPORT FramelessWindow : public QQuickWindow, public QQmlParserStatus
 {
     Q_OBJECT
+    Q_INTERFACES(QQmlParserStatus)
+    Q_PROPERTY(bool visible READ isVisible WRITE setVisible NOTIFY visibleChanged)
     Q_PROPERTY(bool grabsPointer READ grabsPointer WRITE setGrabsPointer NOTIFY grabsPointerChanged)
     // Whether the window system blends the window's transparent pixels with what lies beneath.
     Q_PROPERTY(bool translucent READ isTranslucent NOTIFY translucentChanged)
@@ -44,6 +50,9 @@ public:
 
     explicit FramelessWindow(QWindow* parent = nullptr);
 
+    // Hides QWindow::setVisible for QML: while a declaration is being applied, the request waits.
+    void setVisible(bool visible);
+
     bool grabsPointer() const;
     void setGrabsPointer(bool grabsPointer);
     bool isTranslucent() const { return m_translucent; }
@@ -58,6 +67,8 @@ public:
     Q_INVOKABLE bool isShownAt(const QPointF& position) const;
 
 signals:
+    // Redeclared with the property that hides QWindow's: forwards QWindow::visibleChanged.
+    void visibleChanged(bool visible);
     void grabsPointerChanged();
     void translucentChanged();
     void maskPolicyChanged();
@@ -68,6 +79,8 @@ signals:
     void pointerReleased(QPointF position, int button);
 
 protected:
+    void classBegin() override;
+    void componentComplete() override;
     bool event(QEvent* event) override;
     void exposeEvent(QExposeEvent* event) override;
     void showEvent(QShowEvent* event) override;
@@ -78,6 +91,9 @@ private:
     void UpdateTranslucency();
     void UpdateMask();
 
+    // False only between the start and the end of a QML declaration.
+    bool m_complete = true;
+    bool m_visibleRequested = false;
     bool m_grabsPointer = false;
     bool m_translucent = true;
     MaskPolicy m_maskPolicy = MaskWhenOpaque;

@@ -27,9 +27,10 @@ class MarkingMenu : public Orvo::UI::QtExtensions::UIComponent, public Kernel::F
 {
     Q_OBJECT
     QML_NAMED_ELEMENT(MarkingMenu_Cpp)
-    Q_PROPERTY(CommandMenuHelper* commandHelper READ commandHelper NOTIFY commandHelperChanged)
+    Q_PROPERTY(Orvo::UI::UIComponents::CommandMenuHelper* commandHelper READ commandHelper NOTIFY
+                   commandHelperChanged)
     // Replaced without a signal by loadConfiguration: QML reads it when the menu opens.
-    Q_PROPERTY(MarkingMenuConfig* mmConfig READ mmConfig NOTIFY mmConfigChanged)
+    Q_PROPERTY(Orvo::UI::UIComponents::MarkingMenuConfig* mmConfig READ mmConfig NOTIFY mmConfigChanged)
     Q_PROPERTY(double cx READ cx NOTIFY cxChanged)
     Q_PROPERTY(double cy READ cy NOTIFY cyChanged)
 

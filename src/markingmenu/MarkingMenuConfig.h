@@ -13,10 +13,15 @@ class MarkingMenuConfig : public QObject
 {
     Q_OBJECT
     QML_NAMED_ELEMENT(MarkingMenuConfig)
-    Q_PROPERTY(MarkingMenuSectionConfig* topSection READ topSection NOTIFY topSectionChanged)
-    Q_PROPERTY(MarkingMenuSectionConfig* rightSection READ rightSection NOTIFY rightSectionChanged)
-    Q_PROPERTY(MarkingMenuSectionConfig* bottomSection READ bottomSection NOTIFY bottomSectionChanged)
-    Q_PROPERTY(MarkingMenuSectionConfig* leftSection READ leftSection NOTIFY leftSectionChanged)
+    // Property types are named in full: the QML type description finds classes by their full name.
+    Q_PROPERTY(
+        Orvo::UI::UIComponents::MarkingMenuSectionConfig* topSection READ topSection NOTIFY topSectionChanged)
+    Q_PROPERTY(Orvo::UI::UIComponents::MarkingMenuSectionConfig* rightSection READ rightSection NOTIFY
+                   rightSectionChanged)
+    Q_PROPERTY(Orvo::UI::UIComponents::MarkingMenuSectionConfig* bottomSection READ bottomSection NOTIFY
+                   bottomSectionChanged)
+    Q_PROPERTY(Orvo::UI::UIComponents::MarkingMenuSectionConfig* leftSection READ leftSection NOTIFY
+                   leftSectionChanged)
 
 public:
     explicit MarkingMenuConfig(QObject* parent = nullptr);

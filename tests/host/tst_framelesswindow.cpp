@@ -1,5 +1,7 @@
 #include "qtextensions/FramelessWindow.h"
 
+#include <QQmlComponent>
+#include <QQmlEngine>
 #include <QtTest>
 
 using Orvo::UI::QtExtensions::FramelessWindow;
@@ -10,6 +12,7 @@ class tst_FramelessWindow : public QObject
 
 private slots:
     void shouldBeFramelessAndTransparent();
+    void shouldOpenADeclaredVisibleWindowAtItsDeclaredSize();
     void shouldReportPointerMovesAndReleasesItsItemsNeverSawPressed();
     void shouldShowOnlyItsMaskPolygonsWhenMasked_data();
     void shouldShowOnlyItsMaskPolygonsWhenMasked();
@@ -20,6 +23,34 @@ void tst_FramelessWindow::shouldBeFramelessAndTransparent()
     FramelessWindow window;
     QVERIFY(window.flags().testFlag(Qt::FramelessWindowHint));
     QCOMPARE(window.color(), QColor(Qt::transparent));
+}
+
+void tst_FramelessWindow::shouldOpenADeclaredVisibleWindowAtItsDeclaredSize()
+{
+    // Given a declaration that makes the window visible before it sets its size
+    qmlRegisterType<FramelessWindow>("FramelessWindowTest", 1, 0, "FramelessWindow");
+    QQmlEngine engine;
+    QQmlComponent component(&engine);
+    component.setData("import FramelessWindowTest\n"
+                      "FramelessWindow { visible: true; width: 123; height: 45 }",
+                      QUrl());
+    QSize sizeWhenShown;
+
+    // When it is created
+    std::unique_ptr<QObject> object(component.beginCreate(engine.rootContext()));
+    QVERIFY2(object, qPrintable(component.errorString()));
+    auto* window = qobject_cast<FramelessWindow*>(object.get());
+    QVERIFY(window);
+    QVERIFY(!window->isVisible());
+    QObject::connect(window, &QWindow::visibleChanged, window, [&sizeWhenShown, window](bool visible) {
+        if (visible)
+            sizeWhenShown = window->size();
+    });
+    component.completeCreate();
+
+    // Then it opens once, with the declared size
+    QVERIFY(window->isVisible());
+    QCOMPARE(sizeWhenShown, QSize(123, 45));
 }
 
 void tst_FramelessWindow::shouldReportPointerMovesAndReleasesItsItemsNeverSawPressed()

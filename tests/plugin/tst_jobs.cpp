@@ -210,7 +210,11 @@ private slots:
     void shouldRunRenderingJobsInTheWindowRenderLoop_data()
     {
         QTest::addColumn<bool>("released");
+        // The test's render loop runs on this thread, the queue's owner: another thread plays
+        // the GUI thread that feeds a render thread's queue.
         QTest::newRow("before release: at the next synchronisation") << false;
+        // A job without a stage runs at once on the thread that hands it over when the render
+        // loop has no thread of its own, so here only the owner may feed the released queue.
         QTest::newRow("released: as soon as the render loop is free") << true;
     }
 
@@ -226,11 +230,14 @@ private slots:
         RenderingJobs jobs(&item);
         jobs.SetReleased(released);
         std::atomic<int> runs = 0;
-        std::thread other([&] {
+        const auto scheduleTwo = [&jobs, &runs] {
             jobs.Schedule([&runs] { ++runs; });
             jobs.Schedule([&runs] { ++runs; });
-        });
-        other.join();
+        };
+        if (released)
+            scheduleTwo();
+        else
+            std::thread(scheduleTwo).join();
         window.update();
         QTRY_COMPARE(runs.load(), 2);
         QCOMPARE(jobs.PendingCount(), std::size_t(0));

@@ -2,6 +2,7 @@ import QtQuick
 import QtTest
 import Qml.QtComponents
 import UIComponents.GraphicView
+import "../common/TestSupport.js" as TestSupport
 
 // The graphic view panel: the rubber band drawn from the viewport's selecting rectangle, whose
 // width and height hold the far corner of the drag.
@@ -31,18 +32,6 @@ Item {
             return view
         }
 
-        function findChild(item, name) {
-            for (var i = 0; i < item.children.length; ++i) {
-                var child = item.children[i]
-                if (child.objectName === name)
-                    return child
-                var found = findChild(child, name)
-                if (found)
-                    return found
-            }
-            return null
-        }
-
         function test_rubberBand_data() {
             return [
                 { tag: "rightwards and down", from: Qt.point(60, 50), to: Qt.point(220, 180) },
@@ -53,7 +42,7 @@ Item {
         function test_rubberBand(data) {
             var view = createView()
             var viewport = view.viewport
-            var band = findChild(view, "rubberBand")
+            var band = TestSupport.findByObjectName(view, "rubberBand")
             verify(band)
             verify(!band.visible)
 

@@ -3,6 +3,7 @@ import QtTest
 import Qml.QtComponents
 import Qml.QtBasicComponents
 import Orvo.QtExtensions
+import "../common/TestSupport.js" as TestSupport
 
 // The hotkey handler as the application loads it, over the application's shipped commands:
 // keys typed into a window run their commands, and nothing runs while a message box is up.
@@ -59,8 +60,7 @@ TestCase {
     }
 
     function init() {
-        var component = Qt.createComponent("qrc:/UIComponents/HotkeyHandler/HotkeyHandler.qml")
-        verify(createTemporaryObject(component, testCase), component.errorString())
+        TestSupport.createHotkeyHandler(testCase)
         executed.clear()
     }
 

@@ -2,6 +2,7 @@ import QtQuick
 import QtTest
 import Qml.QtComponents
 import Orvo.QtExtensions
+import "../common/TestSupport.js" as TestSupport
 
 // The demo's front door at the size the demo gives it: what the module holds, live pieces of each
 // part, and links to their pages.
@@ -19,13 +20,9 @@ TestCase {
     }
 
     function openPage() {
-        const handler = Qt.createComponent("qrc:/UIComponents/HotkeyHandler/HotkeyHandler.qml")
-        verify(createTemporaryObject(handler, testCase), handler.errorString())
-        const component = Qt.createComponent(Qt.resolvedUrl("../../app/qml/OverviewPage.qml"))
-        compare(component.status, Component.Ready, component.errorString())
-        const page = createTemporaryObject(component, testCase, { width: testCase.width, height: testCase.height })
-        verify(page)
-        return page
+        TestSupport.createHotkeyHandler(testCase)
+        return TestSupport.createDocument(testCase, Qt.resolvedUrl("../../app/qml/OverviewPage.qml"),
+                                          { width: testCase.width, height: testCase.height })
     }
 
     function fact(page, name) {

@@ -3,6 +3,7 @@ import QtQuick.Controls.Basic
 import QtTest
 import Qml.QtComponents
 import Orvo.QtExtensions
+import "../common/TestSupport.js" as TestSupport
 
 // The demo's keyboard shortcuts page at the size the demo gives it, over the shipped commands.
 TestCase {
@@ -19,11 +20,7 @@ TestCase {
     CommandListModel { id: commands }
 
     function rowOf(uuid) {
-        for (let row = 0; row < commands.count; ++row) {
-            if (commands.data(commands.index(row, 0), CommandListModel.UuidRole) === uuid)
-                return row
-        }
-        return -1
+        return TestSupport.rowWhere(commands, CommandListModel.UuidRole, uuid)
     }
 
     function shortcutOf(uuid) {
@@ -35,17 +32,14 @@ TestCase {
     }
 
     function openPage() {
-        const component = Qt.createComponent(Qt.resolvedUrl("../../app/qml/ShortcutsPage.qml"))
-        compare(component.status, Component.Ready, component.errorString())
-        page = createTemporaryObject(component, testCase, { width: testCase.width, height: testCase.height })
-        verify(page)
+        page = TestSupport.createDocument(testCase, Qt.resolvedUrl("../../app/qml/ShortcutsPage.qml"),
+                                          { width: testCase.width, height: testCase.height })
         return page
     }
 
     // The application's hotkey handler outlives its pages, as in the demo.
     function initTestCase() {
-        const handler = Qt.createComponent("qrc:/UIComponents/HotkeyHandler/HotkeyHandler.qml")
-        verify(handler.createObject(testCase), handler.errorString())
+        TestSupport.createHotkeyHandler(testCase, true)
     }
 
     function init() {

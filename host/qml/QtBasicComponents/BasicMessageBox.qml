@@ -64,14 +64,16 @@ Controls.Dialog {
             objectName: "messageBoxAccept"
             text: box.acceptText
             implicitWidth: Math.max(88, implicitContentWidth + leftPadding + rightPadding)
-            Controls.DialogButtonBox.buttonRole: Controls.DialogButtonBox.AcceptRole
+            // Closed by the button itself rather than through a button role: the roles' enumeration
+            // lives in a Qt class that QML tools cannot see.
+            onClicked: box.accept()
         }
         BasicButton {
             objectName: "messageBoxReject"
             visible: box.rejectText.length > 0
             text: box.rejectText
             implicitWidth: Math.max(88, implicitContentWidth + leftPadding + rightPadding)
-            Controls.DialogButtonBox.buttonRole: Controls.DialogButtonBox.RejectRole
+            onClicked: box.reject()
         }
     }
 }

@@ -85,13 +85,22 @@ FocusScope {
             spacing: 18
             visible: d.hasText
             Repeater {
-                model: Math.min(calculator.multipleResults.length, root.valueCount)
+                // One entry per coordinate the expression gave, with everything its text shows.
+                model: {
+                    const parts = []
+                    const count = Math.min(calculator.multipleResults.length, root.valueCount)
+                    for (let i = 0; i < count; ++i) {
+                        const valid = calculator.multipleValids[i]
+                        parts.push({ valid: valid,
+                                     text: root.labels[i] + " = " + (valid ? root.formatted(calculator.multipleResults[i]) + " m"
+                                                                           : Strings.text("UI_INLINE_CALC_ERROR")) })
+                    }
+                    return parts
+                }
                 Text {
-                    required property int index
-                    readonly property bool partValid: calculator.multipleValids[index]
-                    text: root.labels[index] + " = " + (partValid ? root.formatted(calculator.multipleResults[index]) + " m"
-                                                                  : Strings.text("UI_INLINE_CALC_ERROR"))
-                    color: partValid ? BasicConstants.colors.text : BasicConstants.colors.error
+                    required property var modelData
+                    text: modelData.text
+                    color: modelData.valid ? BasicConstants.colors.text : BasicConstants.colors.error
                     font.family: BasicConstants.fonts.family
                     font.pixelSize: BasicConstants.fonts.normal
                 }

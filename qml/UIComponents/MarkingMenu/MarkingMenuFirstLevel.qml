@@ -18,12 +18,16 @@ Item {
     height: outerRadius * 2
 
     Repeater {
-        model: MarkingMenuGeometry.sectionCount
+        // Every sector's model entry is the first level itself: a delegate sees only what its
+        // model gives it.
+        model: Array(MarkingMenuGeometry.sectionCount).fill(firstLevel)
 
         Item {
             id: sector
             required property int index
-            readonly property var config: index < firstLevel.sections.length ? firstLevel.sections[index] : null
+            required property var modelData
+            readonly property var level: modelData
+            readonly property var config: index < level.sections.length ? level.sections[index] : null
             readonly property bool offered: config !== null && config.sectionVisible
             readonly property real startAngle: MarkingMenuGeometry.sectionAngle(index) - 45 + 1.5
 
@@ -36,22 +40,22 @@ Item {
                 ShapePath {
                     strokeColor: "transparent"
                     fillColor: !sector.offered ? UIComponentsConstants.markingMenuSliceEmpty
-                             : firstLevel.selectedSection === sector.index ? UIComponentsConstants.markingMenuSliceHover
+                             : sector.level.selectedSection === sector.index ? UIComponentsConstants.markingMenuSliceHover
                                                                            : UIComponentsConstants.markingMenuSlice
 
                     PathAngleArc {
-                        centerX: firstLevel.outerRadius
-                        centerY: firstLevel.outerRadius
-                        radiusX: firstLevel.outerRadius
-                        radiusY: firstLevel.outerRadius
+                        centerX: sector.level.outerRadius
+                        centerY: sector.level.outerRadius
+                        radiusX: sector.level.outerRadius
+                        radiusY: sector.level.outerRadius
                         startAngle: sector.startAngle
                         sweepAngle: 87
                     }
                     PathAngleArc {
-                        centerX: firstLevel.outerRadius
-                        centerY: firstLevel.outerRadius
-                        radiusX: firstLevel.deadRadius
-                        radiusY: firstLevel.deadRadius
+                        centerX: sector.level.outerRadius
+                        centerY: sector.level.outerRadius
+                        radiusX: sector.level.deadRadius
+                        radiusY: sector.level.deadRadius
                         startAngle: sector.startAngle + 87
                         sweepAngle: -87
                         moveToStart: false
@@ -62,9 +66,9 @@ Item {
             Image {
                 readonly property var centre: MarkingMenuGeometry.pointAt(
                                                   MarkingMenuGeometry.sectionAngle(sector.index),
-                                                  (firstLevel.outerRadius + firstLevel.deadRadius) / 2)
-                x: firstLevel.outerRadius + centre.x - width / 2
-                y: firstLevel.outerRadius + centre.y - height / 2
+                                                  (sector.level.outerRadius + sector.level.deadRadius) / 2)
+                x: sector.level.outerRadius + centre.x - width / 2
+                y: sector.level.outerRadius + centre.y - height / 2
                 width: 16
                 height: 16
                 sourceSize.width: 16

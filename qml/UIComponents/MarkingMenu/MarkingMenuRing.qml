@@ -29,18 +29,20 @@ Item {
 
     Repeater {
         id: slices
-        model: MarkingMenuGeometry.sliceCount
+        // Every slice's model entry is the ring itself: a delegate sees only what its model gives it.
+        model: Array(MarkingMenuGeometry.sliceCount).fill(ring)
 
         MarkingMenuSlice {
             required property int index
-            section: ring.section
+            required property var modelData
+            section: modelData.section
             sliceNumber: index + 1
-            commandUuid: ring.sectionConfig && index < ring.sectionConfig.commandUuids.length
-                         ? ring.sectionConfig.commandUuids[index] : ""
-            helper: ring.helper
-            selected: ring.selectedSlice === sliceNumber
-            innerRadius: ring.innerRadius
-            outerRadius: ring.outerRadius
+            commandUuid: modelData.sectionConfig && index < modelData.sectionConfig.commandUuids.length
+                         ? modelData.sectionConfig.commandUuids[index] : ""
+            helper: modelData.helper
+            selected: modelData.selectedSlice === sliceNumber
+            innerRadius: modelData.innerRadius
+            outerRadius: modelData.outerRadius
         }
     }
 }

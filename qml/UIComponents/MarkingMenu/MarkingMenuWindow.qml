@@ -170,7 +170,7 @@ FramelessWindow {
     }
 
     Shortcut {
-        sequences: [StandardKey.Cancel]
+        sequence: "Esc"
         onActivated: {
             menuWindow.clearSelection()
             menuWindow.controller.hideMarkingMenu()
@@ -183,17 +183,19 @@ FramelessWindow {
 
         Repeater {
             id: rings
-            model: MarkingMenuGeometry.sectionCount
+            // Every ring's model entry is the window itself: a delegate sees only what its model gives it.
+            model: Array(MarkingMenuGeometry.sectionCount).fill(menuWindow)
 
             MarkingMenuRing {
                 required property int index
+                required property var modelData
                 anchors.centerIn: parent
                 section: index
-                visible: menuWindow.selectedSection === index
-                sectionConfig: index < menuWindow.sections.length ? menuWindow.sections[index] : null
-                helper: menuWindow.controller.commandHelper
-                selectedSlice: menuWindow.selectedSection === index ? menuWindow.selectedSlice
-                                                                     : MarkingMenuGeometry.noSlice
+                visible: modelData.selectedSection === index
+                sectionConfig: index < modelData.sections.length ? modelData.sections[index] : null
+                helper: modelData.controller.commandHelper
+                selectedSlice: modelData.selectedSection === index ? modelData.selectedSlice
+                                                                    : MarkingMenuGeometry.noSlice
             }
         }
 
@@ -231,20 +233,21 @@ FramelessWindow {
         // one, beyond the end of its ring.
         Repeater {
             id: captions
-            model: MarkingMenuGeometry.sectionCount
+            model: Array(MarkingMenuGeometry.sectionCount).fill(menuWindow)
 
             MarkingMenuSectionCaption_UI {
                 required property int index
-                readonly property var sectionConfig: index < menuWindow.sections.length ? menuWindow.sections[index] : null
-                readonly property bool chosen: menuWindow.selectedSection === index
+                required property var modelData
+                readonly property var sectionConfig: index < modelData.sections.length ? modelData.sections[index] : null
+                readonly property bool chosen: modelData.selectedSection === index
                 readonly property real distanceFromCentre: chosen ? MarkingMenuGeometry.ringOuterRadius + 6
                                                                   : MarkingMenuGeometry.firstLevelOuterRadius + 8
                 readonly property var centre: MarkingMenuGeometry.boxBeyond(MarkingMenuGeometry.sectionAngle(index),
                                                                             distanceFromCentre, width, height)
-                x: content.width / 2 + centre.x - width / 2
-                y: content.height / 2 + centre.y - height / 2
+                x: modelData.width / 2 + centre.x - width / 2
+                y: modelData.height / 2 + centre.y - height / 2
                 visible: sectionConfig !== null && sectionConfig.sectionVisible
-                         && (chosen || menuWindow.selectedSection === MarkingMenuGeometry.noSection)
+                         && (chosen || modelData.selectedSection === MarkingMenuGeometry.noSection)
                 highlighted: chosen
                 text: sectionConfig ? Strings.text(sectionConfig.lcid) : ""
                 iconSource: chosen && sectionConfig ? sectionConfig.icon : ""

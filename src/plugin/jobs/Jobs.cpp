@@ -1,5 +1,7 @@
 #include "Jobs.h"
 
+#include <QtGlobal>
+
 #include <iterator>
 #include <utility>
 
@@ -54,6 +56,8 @@ void Jobs::ScheduleOrRun(std::function<void()> job)
 
 void Jobs::Perform()
 {
+    // Calls scheduled from other threads are only safe because the owner alone performs them.
+    Q_ASSERT_X(IsThisThread(), "Jobs::Perform", "a queue is performed by the thread that owns it");
     // The batch is moved out before it runs, so a call may destroy this queue (the viewport's
     // release job does) without pulling the storage from under the loop.
     std::shared_ptr<bool> alive = m_lifetime;
