@@ -24,8 +24,6 @@ Item {
     }
 
     readonly property bool showsModel: source.currentIndex > 0
-    // The model's table view is made the first time it is asked for, and then kept.
-    property bool modelTableOpened: false
 
     ColumnLayout {
         anchors { fill: parent; margins: 12 }
@@ -38,11 +36,10 @@ Item {
                 id: source
                 objectName: "tableSource"
                 Layout.preferredWidth: 240
-                model: [Strings.text("UI_DEMO_TABLES_GENERATED")].concat(modelTable.tableLabels)
+                model: [Strings.text("UI_DEMO_TABLES_GENERATED"), ...modelTable.tableLabels]
                 onActivated: index => {
                     if (index > 0) {
                         modelTable.tableId = modelTable.tableIds[index - 1]
-                        page.modelTableOpened = true
                     }
                 }
             }
@@ -69,13 +66,10 @@ Item {
                 focus: !page.showsModel
             }
 
-            Loader {
-                active: page.modelTableOpened
-                sourceComponent: ContentTable {
-                    objectName: "modelTableView"
-                    contentModel: modelTable.contentModel
-                    focus: true
-                }
+            ContentTable {
+                objectName: "modelTableView"
+                contentModel: modelTable.contentModel
+                focus: page.showsModel
             }
         }
 

@@ -21,7 +21,7 @@ namespace Orvo::UI::UIComponents {
 // typed cells, pastes, multi-edits, new rows and cell actions are each one step of the host's
 // undo stack. It refills whenever the host says the table changed, which is how an undo or an
 // edit made elsewhere (the properties panel) shows here.
-class TableInput : public QtExtensions::UIComponent
+class TableInput : public Orvo::UI::QtExtensions::UIComponent
 {
     Q_OBJECT
     QML_NAMED_ELEMENT(TableInput_Cpp)
