@@ -26,7 +26,7 @@ std::optional<QVariant> MultiEditOperation::Apply(int action, const Cell& cell, 
 std::optional<QVariant> MultiEditOperation::ApplyArithmetic(int action, const Cell& cell,
                                                             const QString& operand)
 {
-    if ((cell.type != TableValueType::Integer && cell.type != TableValueType::Real) || cell.usesParameter)
+    if (cell.type != TableValueType::Integer && cell.type != TableValueType::Real)
         return std::nullopt;
     const auto by = TableNumberText::Parse(operand, cell.unit).number;
     bool ok = false;
@@ -62,8 +62,23 @@ std::optional<QVariant> MultiEditOperation::ApplyArithmetic(int action, const Ce
     if (!std::isfinite(result))
         return std::nullopt;
     if (cell.type == TableValueType::Integer)
-        return QVariant::fromValue(static_cast<qlonglong>(std::llround(result)));
+        result = static_cast<double>(std::llround(result));
+    // A cell driven by a list of named values takes only the list's values: the result goes in as
+    // the name that reads as it, and a result that no name reads as leaves the cell as it is.
+    if (cell.usesParameter || !cell.parametersNames.isEmpty())
+        return NamedValue(cell.parametersNames, result);
+    if (cell.type == TableValueType::Integer)
+        return QVariant::fromValue(static_cast<qlonglong>(result));
     return result;
+}
+
+std::optional<QVariant> MultiEditOperation::NamedValue(const QStringList& names, double value)
+{
+    for (const QString& name : names) {
+        if (TableNumberText::Parse(name) == value)
+            return name;
+    }
+    return std::nullopt;
 }
 
 std::optional<QVariant> MultiEditOperation::ApplyReplace(const Cell& cell, const QString& operand)

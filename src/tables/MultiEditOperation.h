@@ -30,6 +30,7 @@ public:
 private:
     static std::optional<QVariant> ApplyArithmetic(int action, const Cell& cell, const QString& operand);
     static std::optional<QVariant> ApplyReplace(const Cell& cell, const QString& operand);
+    static std::optional<QVariant> NamedValue(const QStringList& names, double value);
 };
 
 } // namespace Orvo::UI::UIComponents

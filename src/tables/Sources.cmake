@@ -20,14 +20,18 @@ target_sources(QtComponentsCore PRIVATE
     ${CMAKE_CURRENT_LIST_DIR}/TableColumnsModel.h ${CMAKE_CURRENT_LIST_DIR}/TableColumnsModel.cpp
     ${CMAKE_CURRENT_LIST_DIR}/TableSelectionRegion.h ${CMAKE_CURRENT_LIST_DIR}/TableSelectionRegion.cpp
     ${CMAKE_CURRENT_LIST_DIR}/TableSelectionView.h
+    ${CMAKE_CURRENT_LIST_DIR}/TableSelectionState.h ${CMAKE_CURRENT_LIST_DIR}/TableSelectionState.cpp
     ${CMAKE_CURRENT_LIST_DIR}/TableSelectionModel.h ${CMAKE_CURRENT_LIST_DIR}/TableSelectionModel.cpp
     ${CMAKE_CURRENT_LIST_DIR}/TableSelectionFilterModel.h ${CMAKE_CURRENT_LIST_DIR}/TableSelectionFilterModel.cpp
     ${CMAKE_CURRENT_LIST_DIR}/TableColumnLayout.h ${CMAKE_CURRENT_LIST_DIR}/TableColumnLayout.cpp
     ${CMAKE_CURRENT_LIST_DIR}/TableCellText.h ${CMAKE_CURRENT_LIST_DIR}/TableCellText.cpp
     ${CMAKE_CURRENT_LIST_DIR}/TableRoleData.h ${CMAKE_CURRENT_LIST_DIR}/TableRoleData.cpp
     ${CMAKE_CURRENT_LIST_DIR}/TableNewRowLine.h ${CMAKE_CURRENT_LIST_DIR}/TableNewRowLine.cpp
+    ${CMAKE_CURRENT_LIST_DIR}/TablePendingEdits.h ${CMAKE_CURRENT_LIST_DIR}/TablePendingEdits.cpp
     ${CMAKE_CURRENT_LIST_DIR}/TableClipboard.h ${CMAKE_CURRENT_LIST_DIR}/TableClipboard.cpp
     ${CMAKE_CURRENT_LIST_DIR}/TableSelectionParameters.h ${CMAKE_CURRENT_LIST_DIR}/TableSelectionParameters.cpp
+    ${CMAKE_CURRENT_LIST_DIR}/TableSelectionFollower.h ${CMAKE_CURRENT_LIST_DIR}/TableSelectionFollower.cpp
+    ${CMAKE_CURRENT_LIST_DIR}/TableNamedStateWidths.h ${CMAKE_CURRENT_LIST_DIR}/TableNamedStateWidths.cpp
     ${CMAKE_CURRENT_LIST_DIR}/MultiEditSelection.h ${CMAKE_CURRENT_LIST_DIR}/MultiEditSelection.cpp
     ${CMAKE_CURRENT_LIST_DIR}/TableContentDelivery.h ${CMAKE_CURRENT_LIST_DIR}/TableContentDelivery.cpp
     ${CMAKE_CURRENT_LIST_DIR}/MoveVectorElement.h

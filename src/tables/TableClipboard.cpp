@@ -5,7 +5,11 @@
 #include "TableContentModel.h"
 #include "TableSelectionFilterModel.h"
 #include "TableSelectionModel.h"
+#include "TablesLogging.h"
 
+#include <QClipboard>
+#include <QGuiApplication>
+#include <QMimeData>
 #include <algorithm>
 
 namespace Orvo::UI::UIComponents {
@@ -117,6 +121,32 @@ TableContentUpdate TableClipboard::PasteUpdate(const QString& text) const
         }
     }
     return update;
+}
+
+void TableClipboard::CopyToSystemClipboard() const
+{
+    const QString text
+        = CatchAtBoundary("TableContentModel::copyToClipboard", QString(), [&]() { return CopyText(); });
+    QClipboard* clipboard = QGuiApplication::clipboard();
+    if (clipboard && !text.isEmpty())
+        clipboard->setText(text);
+}
+
+TableContentUpdate TableClipboard::PasteFromSystemClipboard() const
+{
+    const QClipboard* clipboard = QGuiApplication::clipboard();
+    const QString text = clipboard ? clipboard->text() : QString();
+    if (text.isEmpty())
+        return {};
+    return CatchAtBoundary("TableContentModel::pasteFromClipboard", TableContentUpdate(),
+                           [&]() { return PasteUpdate(text); });
+}
+
+bool TableClipboard::SystemClipboardHasText()
+{
+    const QClipboard* clipboard = QGuiApplication::clipboard();
+    const QMimeData* mimeData = clipboard ? clipboard->mimeData() : nullptr;
+    return mimeData && mimeData->hasText();
 }
 
 } // namespace Orvo::UI::UIComponents

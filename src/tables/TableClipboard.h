@@ -29,6 +29,12 @@ public:
     // A line of column labels rather than data: its first two fields are both labels.
     bool IsHeaderLine(const QString& line) const;
 
+    // The same with the system clipboard. A copy of nothing leaves the clipboard as it was; a
+    // failure reading the table is logged, never thrown.
+    void CopyToSystemClipboard() const;
+    TableContentUpdate PasteFromSystemClipboard() const;
+    static bool SystemClipboardHasText();
+
 private:
     QString PastedValue(int row, int column, bool existingRow, const QString& field) const;
 

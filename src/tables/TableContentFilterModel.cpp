@@ -185,7 +185,7 @@ void TableContentFilterModel::onFilterBarModelChanged()
 void TableContentFilterModel::InvalidateFiltering()
 {
     // Hidden rows must not stay selected: every change of the filters starts a new selection.
-    m_selectionModel->select(QModelIndex(), 3, false);
+    m_selectionModel->select(QModelIndex(), TableSelectionModel::CleanSelect, false);
     // The proxy's incremental re-filter announces every gap between kept rows as a removal or an
     // insertion of its own and moves its row vectors for each: quadratic in the row count, minutes
     // for a million rows. Dropping the mapping and rebuilding it in one pass is linear, and views

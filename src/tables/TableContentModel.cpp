@@ -9,6 +9,7 @@
 #include "TableColorPalette.h"
 #include "TableContentDelivery.h"
 #include "TableContentFilterModel.h"
+#include "TableNamedStateWidths.h"
 #include "TableNumberText.h"
 #include "TableRoleData.h"
 #include "TableSelectionFilterModel.h"
@@ -18,9 +19,6 @@
 #include "framework/EventBus.h"
 #include "framework/ServiceCatalog.h"
 
-#include <QClipboard>
-#include <QGuiApplication>
-#include <QMimeData>
 #include <QScopedValueRollback>
 #include <algorithm>
 #include <stdexcept>
@@ -47,6 +45,7 @@ TableContentModel::TableContentModel(QObject* parent)
     , m_selectionModel(new TableSelectionModel(this, this))
     , m_contentFilterModel(new TableContentFilterModel(this))
     , m_multiEditActionSolver(new MultiEditActionSolver(this))
+    , m_namedStateWidths(new TableNamedStateWidths(*this))
 {
     m_contentFilterModel->SetSourceModel(this);
     m_multiEditSearchResult = new MultiEditSearchResult(m_contentFilterModel, this);
@@ -55,16 +54,16 @@ TableContentModel::TableContentModel(QObject* parent)
             &TableContentModel::onColumnsModelColumnsCountChanged);
     connect(m_columnsModel, &TableColumnsModel::columnsVisibilityChanged, this,
             &TableContentModel::onColumnsVisibilityChanged);
-    connect(m_selectionModel, &TableSelectionModel::currentSelectedIndexChanged, this,
-            &TableContentModel::onCurrentSelectedIndexChanged);
-    connect(m_selectionModel, &TableSelectionModel::currentRegionChanged, this,
-            &TableContentModel::onSelectionModelCurrentRegionChanged);
-    connect(m_selectionModel, &TableSelectionModel::selectionChanged, this,
-            &TableContentModel::onSelectionChanged);
-    connect(m_selectionModel, &TableSelectionModel::rowSelectionChanged, this,
-            &TableContentModel::onRowSelectionChanged);
-    connect(m_selectionModel, &TableSelectionModel::rowExtraHighlightChanged, this,
-            &TableContentModel::onRowExtraHighlightChanged);
+    m_selectionFollower = new TableSelectionFollower(*this, *m_selectionModel, this);
+    connect(m_selectionFollower, &TableSelectionFollower::selectionRolesChanged, this,
+            [this](const QModelIndex& topLeft, const QModelIndex& bottomRight) {
+                emit dataChanged(topLeft, bottomRight, c_selectionRoles);
+            });
+    connect(m_selectionFollower, &TableSelectionFollower::parametersChanged, this, [this]() {
+        emit selectionParametersNamesChanged();
+        emit selectionParametersValuesChanged();
+        emit selectionParametersSelectedIndicesChanged();
+    });
     connect(m_contentFilterModel, &TableContentFilterModel::filterBarModelChanged, this,
             &TableContentModel::filterBarModelChanged);
     FollowNumberFormat();
@@ -91,6 +90,7 @@ TableContentModel::~TableContentModel()
     delete m_multiEditSearchResult;
     delete m_multiEditActionSolver;
     delete m_contentFilterModel;
+    delete m_selectionFollower;
     delete m_selectionModel;
     delete m_columnsModel;
 }
@@ -239,7 +239,7 @@ void TableContentModel::AddColumnsContent(std::vector<TableColumnContent>&& cont
         return;
     const int count = static_cast<int>(contents.front().cells.size());
     TableContentDelivery::ResolveColumns(contents, m_layout);
-    m_pendingUpdate.Clear();
+    m_pendingEdits.ClearRecordEdits();
     if (count == 0)
         return;
     const int first = m_rowCountSubmitted;
@@ -268,27 +268,8 @@ void TableContentModel::SetRowsToGrid(int index, std::vector<TableColumnContent>
 
 void TableContentModel::UpdateMinimumWidths(int firstRow, int count)
 {
-    const std::vector<int> columns
-        = TableContentDelivery::ColumnsNeedingNamedStates(m_grid, m_layout, firstRow, count);
-    if (!m_contentFilterModel->Invalidating()) {
-        for (int column : columns)
-            setHeaderData(column, Qt::Horizontal, c_boolWithNamesMinWidth, ColumnMinWidthRole);
-        return;
-    }
-    // Delivered while the filter proxy tests a row: a header signal now would make the proxy
-    // rebuild the row mapping it is building. The widths follow once the filtering is over.
-    const bool queued = !m_namedStateColumnsAfterFiltering.isEmpty();
-    for (int column : columns)
-        m_namedStateColumnsAfterFiltering.append(m_layout.At(column).id);
-    if (!queued && !m_namedStateColumnsAfterFiltering.isEmpty())
-        QMetaObject::invokeMethod(this, &TableContentModel::WidenNamedStateColumns, Qt::QueuedConnection);
-}
-
-void TableContentModel::WidenNamedStateColumns()
-{
-    const QStringList ids = std::exchange(m_namedStateColumnsAfterFiltering, {});
-    for (const QString& id : ids)
-        setHeaderData(FindColumnIndex(id), Qt::Horizontal, c_boolWithNamesMinWidth, ColumnMinWidthRole);
+    m_namedStateWidths->Widen(
+        TableContentDelivery::ColumnsNeedingNamedStates(m_grid, m_layout, firstRow, count));
 }
 
 void TableContentModel::ClearContent()
@@ -299,13 +280,13 @@ void TableContentModel::ClearContent()
         m_grid.Reset(columnCount(), 0);
         m_rowCountSubmitted = 0;
         endRemoveRows();
-        m_pendingUpdate.Clear();
+        m_pendingEdits.ClearRecordEdits();
         emit rowCountChanged();
         emit clearContent();
         return;
     }
     m_grid.Reset(columnCount(), 0);
-    m_pendingUpdate.Clear();
+    m_pendingEdits.ClearRecordEdits();
 }
 
 void TableContentModel::Clear()
@@ -336,7 +317,7 @@ QVariant TableContentModel::CellData(const QModelIndex& index, int role) const
         return m_selectionModel->RoleData(row, column, role);
     const TableCellContent& cell = EnsureData(row, column, ContentRequest::VisibleColumns);
     return TableRoleData::RecordData(cell, m_layout.At(column), GetValueType(row, column),
-                                     m_pendingUpdate.GetValue(row, column), role);
+                                     PendingValue(row, column), role);
 }
 
 QVariant TableContentModel::DataForNewRow(int column, int role) const
@@ -344,8 +325,9 @@ QVariant TableContentModel::DataForNewRow(int column, int role) const
     if (!m_layout.Contains(column))
         return {};
     const QVariant selection = m_selectionModel->RoleData(m_rowCountSubmitted, column, role);
-    return selection.isValid() ? selection
-                               : TableRoleData::NewRowData(m_layout.At(column), m_newRow.Value(column), role);
+    return selection.isValid()
+        ? selection
+        : TableRoleData::NewRowData(m_layout.At(column), m_pendingEdits.NewRow().Value(column), role);
 }
 
 TableValueType TableContentModel::GetValueType(int row, int column) const
@@ -424,34 +406,16 @@ bool TableContentModel::setData(const QModelIndex& index, const QVariant& value,
                            [&]() { return SetCellValue(index.row(), index.column(), value, role); });
 }
 
-bool TableContentModel::SetCellValue(int row, int column, QVariant value, int role)
+bool TableContentModel::SetCellValue(int row, int column, const QVariant& value, int role)
 {
     if (!IsCellEditable(row, column))
         return false;
-    const TableCellContent& cell = EnsureData(row, column, ContentRequest::VisibleColumns);
-    const TableValueType type = GetValueType(row, column);
-    if (role == ParameterIndexRole) {
-        const int parameter = value.toInt();
-        if (parameter < 0 || parameter >= cell.parametersNames.size()) {
-            qCWarning(lcTables) << "setData: no parameter" << parameter << "in cell" << row << column;
-            return false;
-        }
-        value = cell.parametersNames[parameter];
-    } else if (value.typeId() == QMetaType::QString) {
-        // Typed text: numbers may be expressions, named values are matched case-insensitively.
-        value = TableCellText::CreateContentUpdateValue(value.toString(), type, cell.parametersNames,
-                                                        TableNumberText(), m_layout.At(column).unit);
-        if (value.toString().isNull())
-            return false;
-    }
-    if (TableCellText::IsCachedValue(cell, value, type)) {
-        if (!m_pendingUpdate.Contains(row, column))
-            return false;
-        // Back to the value the host has: the pending edit is withdrawn.
-        m_pendingUpdate.Remove(row, column);
-    } else {
-        m_pendingUpdate.SetValue(row, column, value);
-    }
+    const TablePendingEdits::EditResult result
+        = m_pendingEdits.EditCell(row, column, EnsureData(row, column, ContentRequest::VisibleColumns),
+                                  GetValueType(row, column), value, role == ParameterIndexRole,
+                                  m_layout.At(column).unit);
+    if (result == TablePendingEdits::EditResult::Rejected)
+        return false;
     const QModelIndex changed = index(row, column);
     emit dataChanged(changed, changed, { role, ContentRole, TableContentFilterModel::DisplayTextRole });
     return true;
@@ -472,7 +436,7 @@ QString TableContentModel::TypedTextRefusal(int row, int column, const QString& 
 
 bool TableContentModel::SetDataForNewRow(int column, const QVariant& value, int role)
 {
-    if (!m_newRow.SetValue(column, value.toString()))
+    if (!m_pendingEdits.SetNewRowValue(column, value.toString()))
         return false;
     const QModelIndex changed = index(newRowIndex(), column);
     emit dataChanged(changed, changed, { role, TableContentFilterModel::DisplayTextRole });
@@ -481,31 +445,18 @@ bool TableContentModel::SetDataForNewRow(int column, const QVariant& value, int 
 
 void TableContentModel::confirmUpdate()
 {
-    if (m_allowAddNew && m_newRow.IsAllRequiredFilled(m_layout))
-        m_newRow.CopyInto(m_pendingUpdate, newRowIndex());
-    if (m_pendingUpdate.IsEmpty())
-        return;
-    m_newRow.Clear();
-    emit updateDataRequest(m_pendingUpdate);
+    const auto update
+        = m_pendingEdits.Confirm(m_layout, m_allowAddNew ? std::optional(newRowIndex()) : std::nullopt);
+    if (update)
+        emit updateDataRequest(*update);
 }
 
 void TableContentModel::QueueEdits(const TableContentUpdate& edits, const QList<int>& roles)
 {
-    int top = m_rowCountSubmitted, bottom = -1, left = columnCount(), right = -1;
-    for (const auto& [row, values] : edits.GetRows()) {
-        for (const auto& [column, value] : values) {
-            m_pendingUpdate.SetValue(row, column, value);
-            if (row >= m_rowCountSubmitted)
-                continue;
-            top = std::min(top, row);
-            bottom = std::max(bottom, row);
-            left = std::min(left, column);
-            right = std::max(right, column);
-        }
-    }
     // One repaint for a paste of many cells, not one per cell.
-    if (bottom >= top)
-        emit dataChanged(index(top, left), index(bottom, right), roles);
+    if (const auto touched = m_pendingEdits.Queue(edits, m_rowCountSubmitted))
+        emit dataChanged(index(touched->top(), touched->left()), index(touched->bottom(), touched->right()),
+                         roles);
 }
 
 // ---- Column layout ---------------------------------------------------------------------------------
@@ -552,7 +503,7 @@ void TableContentModel::AddColumns(std::vector<TableColumn>&& columns)
     const int count = static_cast<int>(columns.size());
     beginInsertColumns(QModelIndex(), first, first + count - 1);
     m_layout.Append(std::move(columns));
-    m_newRow.AppendColumns(count);
+    m_pendingEdits.AppendColumns(count);
     m_grid.AppendColumns(count);
     endInsertColumns();
     emit columnCountChanged();
@@ -566,9 +517,8 @@ void TableContentModel::RemoveColumn(int index, bool notify)
         throw std::overflow_error(QStringLiteral("There is no column at %1").arg(index).toStdString());
     beginRemoveColumns(QModelIndex(), index, index);
     m_layout.Remove(index);
-    m_newRow.RemoveColumn(index);
     m_grid.RemoveColumn(index);
-    m_pendingUpdate.RemoveColumn(index);
+    m_pendingEdits.RemoveColumn(index);
     endRemoveColumns();
     if (notify) {
         emit columnCountChanged();
@@ -610,10 +560,9 @@ void TableContentModel::moveColumn(int srcIndex, int dstIndex)
     const QString movedId = m_layout.At(srcIndex).id;
     const QString beforeId = dstIndex < count ? m_layout.At(dstIndex).id : QString();
     m_layout.Move(srcIndex, dstIndex);
-    m_newRow.MoveColumn(srcIndex, dstIndex);
     m_grid.MoveColumn(srcIndex, dstIndex);
     // Edits not confirmed yet go with their column.
-    m_pendingUpdate.MoveColumn(srcIndex, dstIndex);
+    m_pendingEdits.MoveColumn(srcIndex, dstIndex);
     m_columnsModel->MoveVisibleColumn(movedId, beforeId);
     endMoveColumns();
     emit columnsLayoutChanged();
@@ -663,30 +612,18 @@ void TableContentModel::executeAction(const QModelIndex& index)
 
 void TableContentModel::copyToClipboard()
 {
-    const QString text = CatchAtBoundary("TableContentModel::copyToClipboard", QString(),
-                                         [&]() { return TableClipboard(*this).CopyText(); });
-    QClipboard* clipboard = QGuiApplication::clipboard();
-    if (clipboard && !text.isEmpty())
-        clipboard->setText(text);
+    TableClipboard(*this).CopyToSystemClipboard();
 }
 
 bool TableContentModel::clipboardContainsData() const
 {
-    const QClipboard* clipboard = QGuiApplication::clipboard();
-    const QMimeData* mimeData = clipboard ? clipboard->mimeData() : nullptr;
-    return mimeData && mimeData->hasText();
+    return TableClipboard::SystemClipboardHasText();
 }
 
 void TableContentModel::pasteFromClipboard()
 {
-    const QClipboard* clipboard = QGuiApplication::clipboard();
-    const QString text = clipboard ? clipboard->text() : QString();
-    if (text.isEmpty())
-        return;
-    const TableContentUpdate pasted
-        = CatchAtBoundary("TableContentModel::pasteFromClipboard", TableContentUpdate(),
-                          [&]() { return TableClipboard(*this).PasteUpdate(text); });
-    QueueEdits(pasted, { ContentRole, TableContentFilterModel::DisplayTextRole });
+    QueueEdits(TableClipboard(*this).PasteFromSystemClipboard(),
+               { ContentRole, TableContentFilterModel::DisplayTextRole });
 }
 
 void TableContentModel::setDataForSelection(int action, const QString& value)
@@ -705,81 +642,6 @@ void TableContentModel::setDataForSelection(int action, const QString& value)
         = CatchAtBoundary("TableContentModel::setDataForSelection", TableContentUpdate(),
                           [&]() { return MultiEditSelection(*this).Edits(action, value); });
     QueueEdits(edits, { ContentRole, ParameterIndexRole, TableContentFilterModel::DisplayTextRole });
-}
-
-// ---- Selection ------------------------------------------------------------------------------------------
-
-void TableContentModel::EmitSelectionRolesChanged(const QItemSelectionRange& range)
-{
-    if (!range.isValid())
-        return;
-    const int top = std::max(range.top(), 0);
-    const int left = std::max(range.left(), 0);
-    const int bottom = std::min(range.bottom(), rowCount() - 1);
-    const int right = std::min(range.right(), columnCount() - 1);
-    if (top <= bottom && left <= right)
-        emit dataChanged(index(top, left), index(bottom, right), c_selectionRoles);
-}
-
-void TableContentModel::onCurrentSelectedIndexChanged(QModelIndex prevSelectedIndex)
-{
-    EmitSelectionRolesChanged(QItemSelectionRange(prevSelectedIndex));
-    EmitSelectionRolesChanged(QItemSelectionRange(m_selectionModel->getCurrentSelectedIndex()));
-}
-
-void TableContentModel::onSelectionModelCurrentRegionChanged(QItemSelectionRange previousRegion)
-{
-    EmitSelectionRolesChanged(previousRegion);
-    EmitSelectionRolesChanged(m_selectionModel->getCurrentRegion());
-}
-
-void TableContentModel::onSelectionChanged(QItemSelection selected, QItemSelection deselected)
-{
-    for (const QItemSelection& selection : { selected, deselected }) {
-        for (const QItemSelectionRange& range : selection)
-            EmitSelectionRolesChanged(range);
-    }
-    MarkSelectionParametersDirty();
-}
-
-void TableContentModel::onRowSelectionChanged(std::unordered_set<int> selected,
-                                              std::unordered_set<int> deselected)
-{
-    int top = rowCount(), bottom = -1;
-    for (const auto* rows : { &selected, &deselected }) {
-        for (int row : *rows) {
-            top = std::min(top, row);
-            bottom = std::max(bottom, row);
-        }
-    }
-    if (bottom >= top && columnCount() > 0)
-        EmitSelectionRolesChanged(QItemSelectionRange(index(top, 0), index(bottom, columnCount() - 1)));
-}
-
-void TableContentModel::onRowExtraHighlightChanged(std::unordered_set<int> highlighted,
-                                                   std::unordered_set<int> highlightToRemove)
-{
-    onRowSelectionChanged(std::move(highlighted), std::move(highlightToRemove));
-}
-
-void TableContentModel::MarkSelectionParametersDirty()
-{
-    m_selectionParametersDirty = true;
-    emit selectionParametersNamesChanged();
-    emit selectionParametersValuesChanged();
-    emit selectionParametersSelectedIndicesChanged();
-}
-
-const TableSelectionParameters& TableContentModel::SelectionParameters() const
-{
-    // A selection change only marks the parameters; a selection of 100,000 cells is walked once,
-    // when the multi-edit bar asks.
-    if (m_selectionParametersDirty) {
-        m_selectionParametersDirty = false;
-        CatchAtBoundary("TableContentModel selection parameters",
-                        [&]() { m_selectionParameters.Collect(*this); });
-    }
-    return m_selectionParameters;
 }
 
 } // namespace Orvo::UI::UIComponents

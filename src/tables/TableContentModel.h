@@ -12,24 +12,24 @@
 #include "TableContentFilterModel.h"
 #include "TableContentGrid.h"
 #include "TableContentUpdate.h"
-#include "TableNewRowLine.h"
+#include "TablePendingEdits.h"
 #include "TableRoleData.h"
+#include "TableSelectionFollower.h"
 #include "TableSelectionModel.h"
-#include "TableSelectionParameters.h"
 #include "TableValueType.h"
 #include "framework/EventConnection.h"
 #include "tables/TableResultsValue.h"
 
 #include <QAbstractTableModel>
 #include <QHash>
-#include <QItemSelection>
 #include <QStringList>
 #include <QVariantList>
 #include <QtQml/qqmlregistration.h>
-#include <unordered_set>
 #include <vector>
 
 namespace Orvo::UI::UIComponents {
+
+class TableNamedStateWidths;
 
 // The cell model behind every data table. It never reads the host's data itself: it asks its feeder
 // (the table panel controller) through the request signals, and the feeder answers synchronously by
@@ -73,7 +73,6 @@ public:
     static constexpr int c_rowsCountBulk = GridContentIndex::c_rowsCountBulk;
     static constexpr int c_rowHeight = 24;
     static constexpr int c_columnWidthStep = TableColumnLayout::c_widthStep;
-    static constexpr int c_boolWithNamesMinWidth = 128;
 
     enum ContentType
     {
@@ -179,11 +178,11 @@ public:
     bool getAllowEdit() const { return m_allowEdit; }
     void setAllowEdit(bool allow);
     int getColumnMaxWidth() const { return TableColumnLayout::c_maxWidth; }
-    QStringList getSelectionParametersNames() const { return SelectionParameters().Names(); }
-    QVariantList getSelectionParametersValues() const { return SelectionParameters().Values(); }
+    QStringList getSelectionParametersNames() const { return m_selectionFollower->Parameters().Names(); }
+    QVariantList getSelectionParametersValues() const { return m_selectionFollower->Parameters().Values(); }
     QList<int> getSelectionParametersSelectedIndices() const
     {
-        return SelectionParameters().SelectedIndices();
+        return m_selectionFollower->Parameters().SelectedIndices();
     }
 
     // Invokables
@@ -200,7 +199,10 @@ public:
     Q_INVOKABLE void copyToClipboard();
     Q_INVOKABLE void pasteFromClipboard();
     Q_INVOKABLE bool clipboardContainsData() const;
-    Q_INVOKABLE bool isAllRequiredFilledForNewRow() const { return m_newRow.IsAllRequiredFilled(m_layout); }
+    Q_INVOKABLE bool isAllRequiredFilledForNewRow() const
+    {
+        return m_pendingEdits.NewRow().IsAllRequiredFilled(m_layout);
+    }
     Q_INVOKABLE QString getColorLcid(int index) const { return TableColorPalette::GetKey(index); }
 
     // Feeder side
@@ -234,9 +236,9 @@ public:
     int rowCountSubmitted() const { return m_rowCountSubmitted; }
     QVariant DataForNewRow(int column, int role) const;
     bool SetDataForNewRow(int column, const QVariant& value, int role);
-    const TableContentUpdate& GetPendingUpdate() const { return m_pendingUpdate; }
+    const TableContentUpdate& GetPendingUpdate() const { return m_pendingEdits.Update(); }
     // The edit waiting for a cell; invalid when there is none.
-    QVariant PendingValue(int row, int column) const { return m_pendingUpdate.GetValue(row, column); }
+    QVariant PendingValue(int row, int column) const { return m_pendingEdits.Update().GetValue(row, column); }
     // Why text typed into a cell is no value of it; empty when it is one.
     QString TypedTextRefusal(int row, int column, const QString& text) const;
     // A record cell that takes edits: its column and the cell itself say so.
@@ -306,12 +308,6 @@ signals:
 private slots:
     void onColumnsModelColumnsCountChanged();
     void onColumnsVisibilityChanged(std::vector<int> indexes, bool visible);
-    void onCurrentSelectedIndexChanged(QModelIndex prevSelectedIndex);
-    void onSelectionModelCurrentRegionChanged(QItemSelectionRange previousRegion);
-    void onSelectionChanged(QItemSelection selected, QItemSelection deselected);
-    void onRowSelectionChanged(std::unordered_set<int> selected, std::unordered_set<int> deselected);
-    void onRowExtraHighlightChanged(std::unordered_set<int> highlighted,
-                                    std::unordered_set<int> highlightToRemove);
 
 private:
     bool IsInTable(const QModelIndex& index) const;
@@ -319,16 +315,12 @@ private:
     const TableCellContent& EnsureData(int row, int column, ContentRequest request) const;
     void SetRowsToGrid(int index, std::vector<TableColumnContent>& contents);
     void UpdateMinimumWidths(int firstRow, int count);
-    void WidenNamedStateColumns();
     QVariant CellData(const QModelIndex& index, int role) const;
-    bool SetCellValue(int row, int column, QVariant value, int role);
-    void EmitSelectionRolesChanged(const QItemSelectionRange& range);
+    bool SetCellValue(int row, int column, const QVariant& value, int role);
     // Queues edits and repaints the rows they touch in one go.
     void QueueEdits(const TableContentUpdate& edits, const QList<int>& roles);
     void RequestAllVisibleColumns();
     void RemoveAllColumns();
-    const TableSelectionParameters& SelectionParameters() const;
-    void MarkSelectionParametersDirty();
     // Cells write numbers with the host's number format: a new format rewrites every shown text.
     void FollowNumberFormat();
 
@@ -339,18 +331,16 @@ private:
     int m_rowCountSubmitted = 0;
     TableColumnLayout m_layout;
     mutable TableContentGrid m_grid;
-    TableNewRowLine m_newRow;
     bool m_rebuildingColumns = false;
-    QStringList m_namedStateColumnsAfterFiltering; // column ids
 
-    TableContentUpdate m_pendingUpdate;
+    TablePendingEdits m_pendingEdits;
     TableColumnsModel* m_columnsModel = nullptr;
     TableSelectionModel* m_selectionModel = nullptr;
     TableContentFilterModel* m_contentFilterModel = nullptr;
     MultiEditActionSolver* m_multiEditActionSolver = nullptr;
     MultiEditSearchResult* m_multiEditSearchResult = nullptr;
-    mutable TableSelectionParameters m_selectionParameters;
-    mutable bool m_selectionParametersDirty = true;
+    TableSelectionFollower* m_selectionFollower = nullptr;
+    TableNamedStateWidths* m_namedStateWidths = nullptr;
     QHash<QString, QString> m_colorNames;
     Kernel::Framework::EventConnection m_numberFormatConnection;
 };

@@ -5,7 +5,7 @@
 
 #include <algorithm>
 #include <iterator>
-#include <map>
+#include <tuple>
 
 namespace Orvo::UI::UIComponents {
 
@@ -22,13 +22,8 @@ std::unordered_set<int> Minus(const std::set<int>& a, const std::set<int>& b)
 
 struct TableSelectionModel::Snapshot
 {
-    std::vector<TableSelectionRegion> regions;
-    std::optional<TableSelectionRegion> dragged;
-    bool selectedAll;
-    std::set<int> wholeRows;
+    TableSelectionState state;
     std::set<int> extraRows;
-    int currentRow;
-    int currentColumn;
 };
 
 // Collects the changes of one operation so that every listener hears of them once, at the end.
@@ -39,9 +34,7 @@ public:
         : m_owner(owner)
     {
         if (m_owner.m_changeDepth++ == 0) {
-            m_owner.m_changeStart.reset(new Snapshot {
-                m_owner.m_regions, m_owner.m_dragged, m_owner.m_selectedAll, m_owner.m_wholeRows,
-                m_owner.m_extraRows, m_owner.m_currentRow, m_owner.m_currentColumn });
+            m_owner.m_changeStart.reset(new Snapshot { m_owner.m_state, m_owner.m_extraRows });
         }
     }
     ~ChangeScope()
@@ -111,18 +104,17 @@ void TableSelectionModel::OnAboutToClearContent()
 {
     // A feeder refills the whole table after every confirmed edit; the user keeps working where
     // they were, so the selection comes back when the rows do.
-    m_beforeRefill.reset(new Snapshot {
-        m_regions, std::nullopt, m_selectedAll, m_wholeRows, {}, m_currentRow, m_currentColumn });
+    m_beforeRefill = std::make_unique<TableSelectionState>(m_state);
 }
 
 QModelIndex TableSelectionModel::getCurrentSelectedIndex() const
 {
-    return m_model ? m_model->index(m_currentRow, m_currentColumn) : QModelIndex();
+    return m_model ? m_model->index(m_state.current.row, m_state.current.column) : QModelIndex();
 }
 
 QItemSelectionRange TableSelectionModel::getCurrentRegion() const
 {
-    return m_dragged ? ToRange(*m_dragged) : QItemSelectionRange();
+    return m_state.dragged ? ToRange(*m_state.dragged) : QItemSelectionRange();
 }
 
 // ---- QML operations on the content model itself --------------------------------------------------
@@ -204,14 +196,10 @@ std::optional<TableSelectionRegion> TableSelectionModel::RegionFromView(const Ta
     const int columnCount = view.GetColumnCount();
     if (rowCount <= 0 || columnCount <= 0)
         return std::nullopt;
-    const int firstRow = std::clamp(std::min(top, bottom), 0, rowCount - 1);
-    const int lastRow = std::clamp(std::max(top, bottom), 0, rowCount - 1);
-    const int firstColumn = std::clamp(std::min(left, right), 0, columnCount - 1);
-    const int lastColumn = std::clamp(std::max(left, right), 0, columnCount - 1);
-    top = firstRow;
-    bottom = lastRow;
-    left = firstColumn;
-    right = lastColumn;
+    std::tie(top, bottom)
+        = std::minmax({ std::clamp(top, 0, rowCount - 1), std::clamp(bottom, 0, rowCount - 1) });
+    std::tie(left, right)
+        = std::minmax({ std::clamp(left, 0, columnCount - 1), std::clamp(right, 0, columnCount - 1) });
     if (view.IsIdentity())
         return TableSelectionRegion::Rectangle(top, left, bottom, right);
     RowRunBuilder runs;
@@ -286,27 +274,27 @@ void TableSelectionModel::BeginSelectRegion(const TableSelectionView& view, int 
     if (mode == CleanSelect)
         ClearCells();
     m_dragMode = mode;
-    m_dragged = *cell;
+    m_state.dragged = *cell;
     SetCurrent(cell->GetTop(), column);
     SetAnchor(cell->GetTop(), column);
 }
 
 void TableSelectionModel::SelectRegion(const TableSelectionView& view, int row, int column, int mode)
 {
-    const int anchorRow = MapAnchorRow(view, m_anchorRow);
-    if (anchorRow < 0 || m_anchorColumn < 0) {
+    const int anchorRow = MapAnchorRow(view, m_state.anchor.row);
+    if (anchorRow < 0 || m_state.anchor.column < 0) {
         // Nothing to extend from: behave like a click.
         Select(view, row, column, mode == None ? CleanSelect : mode, false);
         return;
     }
-    const auto region = RegionFromView(view, anchorRow, m_anchorColumn, row, column);
+    const auto region = RegionFromView(view, anchorRow, m_state.anchor.column, row, column);
     if (!region)
         return;
     ChangeScope scope(*this);
-    m_extentRow = view.MapRowToSource(std::clamp(row, 0, view.GetRowCount() - 1));
-    m_extentColumn = std::clamp(column, 0, view.GetColumnCount() - 1);
-    if (m_dragged) {
-        m_dragged = *region;
+    m_state.extent.row = view.MapRowToSource(std::clamp(row, 0, view.GetRowCount() - 1));
+    m_state.extent.column = std::clamp(column, 0, view.GetColumnCount() - 1);
+    if (m_state.dragged) {
+        m_state.dragged = *region;
         return;
     }
     // Shift-click: the rectangle from the anchor replaces the selection (Ctrl+Shift adds it).
@@ -317,11 +305,11 @@ void TableSelectionModel::SelectRegion(const TableSelectionView& view, int row, 
 
 void TableSelectionModel::EndSelectRegion(bool discard)
 {
-    if (!m_dragged)
+    if (!m_state.dragged)
         return;
     ChangeScope scope(*this);
-    TableSelectionRegion dragged = std::move(*m_dragged);
-    m_dragged.reset();
+    TableSelectionRegion dragged = std::move(*m_state.dragged);
+    m_state.dragged.reset();
     if (discard)
         return;
     if (m_dragMode == Deselect)
@@ -341,8 +329,8 @@ void TableSelectionModel::SelectAll(const TableSelectionView& view)
     ChangeScope scope(*this);
     ClearCells();
     AddRegion(*all);
-    m_selectedAll = true;
-    if (m_currentRow < 0)
+    m_state.selectedAll = true;
+    if (m_state.current.row < 0)
         SetCurrent(all->GetTop(), 0);
 }
 
@@ -355,7 +343,7 @@ void TableSelectionModel::SelectRow(const TableSelectionView& view, int row, int
         return;
     const int sourceRow = wholeRow->GetTop();
     ChangeScope scope(*this);
-    std::set<int> rows = m_wholeRows;
+    std::set<int> rows = m_state.wholeRows;
     const bool deselect = mode == Deselect || (mode == Toggle && IsWholeRowSelected(sourceRow));
     if (mode == CleanSelect) {
         ClearCells();
@@ -368,15 +356,15 @@ void TableSelectionModel::SelectRow(const TableSelectionView& view, int row, int
         AddRegion(*wholeRow);
         rows.insert(sourceRow);
     }
-    emit rowSelectionAboutToChange(Minus(rows, m_wholeRows), Minus(m_wholeRows, rows));
-    m_wholeRows = std::move(rows);
-    SetCurrent(sourceRow, m_currentColumn >= 0 ? m_currentColumn : 0);
+    emit rowSelectionAboutToChange(Minus(rows, m_state.wholeRows), Minus(m_state.wholeRows, rows));
+    m_state.wholeRows = std::move(rows);
+    SetCurrent(sourceRow, m_state.current.column >= 0 ? m_state.current.column : 0);
     SetAnchor(sourceRow, 0);
 }
 
 void TableSelectionModel::SelectRowFromLast(const TableSelectionView& view, int row)
 {
-    const int lastRow = MapAnchorRow(view, m_anchorRow);
+    const int lastRow = MapAnchorRow(view, m_state.anchor.row);
     if (lastRow < 0) {
         SelectRow(view, row, CleanSelect);
         return;
@@ -387,45 +375,40 @@ void TableSelectionModel::SelectRowFromLast(const TableSelectionView& view, int 
     if (!rows)
         return;
     ChangeScope scope(*this);
-    const int anchorRow = m_anchorRow;
+    const int anchorRow = m_state.anchor.row;
     ClearCells();
     AddRegion(*rows);
     std::set<int> wholeRows;
     rows->ForEachRow([&](int sourceRow) { wholeRows.insert(sourceRow); });
-    emit rowSelectionAboutToChange(Minus(wholeRows, m_wholeRows), Minus(m_wholeRows, wholeRows));
-    m_wholeRows = std::move(wholeRows);
-    m_anchorRow = anchorRow;
-    m_extentRow = view.MapRowToSource(row);
+    emit rowSelectionAboutToChange(Minus(wholeRows, m_state.wholeRows), Minus(m_state.wholeRows, wholeRows));
+    m_state.wholeRows = std::move(wholeRows);
+    m_state.anchor.row = anchorRow;
+    m_state.extent.row = view.MapRowToSource(row);
 }
 
 void TableSelectionModel::ExtendSelection(const TableSelectionView& view, int rows, int columns)
 {
-    const int anchorRow = MapAnchorRow(view, m_anchorRow);
-    const int extentRow = MapAnchorRow(view, m_extentRow);
-    if (anchorRow < 0 || extentRow < 0 || m_anchorColumn < 0)
+    const int anchorRow = MapAnchorRow(view, m_state.anchor.row);
+    const int extentRow = MapAnchorRow(view, m_state.extent.row);
+    if (anchorRow < 0 || extentRow < 0 || m_state.anchor.column < 0)
         return;
     const int row = std::clamp(extentRow + rows, 0, std::max(0, view.GetRowCount() - 1));
-    const int column = std::clamp(m_extentColumn + columns, 0, std::max(0, view.GetColumnCount() - 1));
-    const auto region = RegionFromView(view, anchorRow, m_anchorColumn, row, column);
+    const int column = std::clamp(m_state.extent.column + columns, 0, std::max(0, view.GetColumnCount() - 1));
+    const auto region = RegionFromView(view, anchorRow, m_state.anchor.column, row, column);
     if (!region)
         return;
     ChangeScope scope(*this);
     ClearCells();
     AddRegion(*region);
-    m_extentRow = view.MapRowToSource(row);
-    m_extentColumn = column;
+    m_state.extent.row = view.MapRowToSource(row);
+    m_state.extent.column = column;
 }
 
 // ---- Queries ---------------------------------------------------------------------------------------
 
-bool TableSelectionModel::IsCellSelected(int row, int column) const
-{
-    return FindRegion(row, column) >= 0;
-}
-
 bool TableSelectionModel::IsCellInDraggedRegion(int row, int column) const
 {
-    return m_dragged && m_dragged->Contains(row, column);
+    return m_state.dragged && m_state.dragged->Contains(row, column);
 }
 
 QVariant TableSelectionModel::RoleData(int row, int column, int role) const
@@ -446,103 +429,38 @@ QVariant TableSelectionModel::RoleData(int row, int column, int role) const
 
 bool TableSelectionModel::IsWholeRowSelected(int row) const
 {
-    if (m_wholeRows.count(row) > 0)
+    if (m_state.wholeRows.count(row) > 0)
         return true;
-    return m_selectedAll && m_model && row >= 0 && row < m_model->rowCountSubmitted()
+    return m_state.selectedAll && m_model && row >= 0 && row < m_model->rowCountSubmitted()
         && IsCellSelected(row, 0);
-}
-
-int TableSelectionModel::FindRegion(int row, int column) const
-{
-    for (std::size_t i = 0; i < m_regions.size(); ++i) {
-        if (m_regions[i].Contains(row, column))
-            return static_cast<int>(i);
-    }
-    return -1;
-}
-
-std::optional<TableSelectionModel::Envelope> TableSelectionModel::GetSourceEnvelope() const
-{
-    if (m_regions.empty())
-        return std::nullopt;
-    Envelope envelope { m_regions.front().GetTop(), m_regions.front().GetLeft(),
-                        m_regions.front().GetBottom(), m_regions.front().GetRight() };
-    for (const TableSelectionRegion& region : m_regions) {
-        envelope.top = std::min(envelope.top, region.GetTop());
-        envelope.bottom = std::max(envelope.bottom, region.GetBottom());
-        envelope.left = std::min(envelope.left, region.GetLeft());
-        envelope.right = std::max(envelope.right, region.GetRight());
-    }
-    return envelope;
-}
-
-void TableSelectionModel::ForEachSelectedCell(const std::function<void(int, int)>& visit) const
-{
-    if (m_regions.size() == 1) {
-        // The common case, select all included: no bookkeeping needed.
-        const TableSelectionRegion& region = m_regions.front();
-        region.ForEachRow([&](int row) {
-            for (int column = region.GetLeft(); column <= region.GetRight(); ++column)
-                visit(row, column);
-        });
-        return;
-    }
-    // Regions may overlap: gather the columns of each row first so that no cell is visited twice.
-    std::map<int, std::set<int>> cells;
-    for (const TableSelectionRegion& region : m_regions) {
-        region.ForEachRow([&](int row) {
-            auto& columns = cells[row];
-            for (int column = region.GetLeft(); column <= region.GetRight(); ++column)
-                columns.insert(column);
-        });
-    }
-    for (const auto& [row, columns] : cells) {
-        for (int column : columns)
-            visit(row, column);
-    }
 }
 
 // ---- State changes ----------------------------------------------------------------------------------
 
 void TableSelectionModel::AddRegion(TableSelectionRegion region)
 {
-    if (region.IsEmpty())
-        return;
-    // A region already covered adds nothing; identical repeated clicks must not pile up regions.
-    for (const TableSelectionRegion& existing : m_regions) {
-        if (region.Subtract(existing).empty())
-            return;
-    }
-    m_regions.push_back(std::move(region));
+    m_state.AddRegion(std::move(region));
 }
 
 void TableSelectionModel::SubtractRegion(const TableSelectionRegion& region)
 {
-    std::vector<TableSelectionRegion> remaining;
-    for (const TableSelectionRegion& existing : m_regions) {
-        for (TableSelectionRegion& piece : existing.Subtract(region))
-            remaining.push_back(std::move(piece));
-    }
-    m_regions = std::move(remaining);
-    m_selectedAll = false;
-    if (!m_wholeRows.empty()) {
-        std::set<int> rows = m_wholeRows;
+    if (!m_state.wholeRows.empty()) {
+        std::set<int> rows = m_state.wholeRows;
         region.ForEachRow([&](int row) { rows.erase(row); });
-        if (rows != m_wholeRows) {
-            emit rowSelectionAboutToChange({}, Minus(m_wholeRows, rows));
-            m_wholeRows = std::move(rows);
-        }
+        if (rows != m_state.wholeRows)
+            emit rowSelectionAboutToChange({}, Minus(m_state.wholeRows, rows));
     }
+    m_state.SubtractRegion(region);
 }
 
 void TableSelectionModel::ClearCells()
 {
-    m_regions.clear();
-    m_dragged.reset();
-    m_selectedAll = false;
-    if (!m_wholeRows.empty()) {
-        emit rowSelectionAboutToChange({}, Minus(m_wholeRows, {}));
-        m_wholeRows.clear();
+    m_state.regions.clear();
+    m_state.dragged.reset();
+    m_state.selectedAll = false;
+    if (!m_state.wholeRows.empty()) {
+        emit rowSelectionAboutToChange({}, Minus(m_state.wholeRows, {}));
+        m_state.wholeRows.clear();
     }
 }
 
@@ -556,21 +474,19 @@ void TableSelectionModel::Clear()
 
 void TableSelectionModel::SetCurrent(int row, int column)
 {
-    m_currentRow = row;
-    m_currentColumn = column;
+    m_state.current = { row, column };
 }
 
 void TableSelectionModel::SetAnchor(int row, int column)
 {
-    m_anchorRow = m_extentRow = row;
-    m_anchorColumn = m_extentColumn = column;
+    m_state.anchor = m_state.extent = { row, column };
 }
 
 void TableSelectionModel::UpdateExtraRows()
 {
     m_extraRows.clear();
-    if (m_currentRow >= 0)
-        m_extraRows.insert(m_currentRow);
+    if (m_state.current.row >= 0)
+        m_extraRows.insert(m_state.current.row);
 }
 
 QItemSelectionRange TableSelectionModel::ToRange(const TableSelectionRegion& region) const
@@ -593,54 +509,49 @@ TableSelectionModel::ToEnvelopeSelection(const std::vector<TableSelectionRegion>
 {
     // Listeners repaint what they are told; the bounding block of the change is one cheap message
     // even for a selection of a million rows made through a filter.
-    if (regions.empty())
+    const auto envelope = TableSelectionState::EnvelopeOf(regions);
+    if (!envelope)
         return {};
-    TableSelectionRegion envelope = regions.front();
-    int top = envelope.GetTop(), bottom = envelope.GetBottom();
-    int left = envelope.GetLeft(), right = envelope.GetRight();
-    for (const TableSelectionRegion& region : regions) {
-        top = std::min(top, region.GetTop());
-        bottom = std::max(bottom, region.GetBottom());
-        left = std::min(left, region.GetLeft());
-        right = std::max(right, region.GetRight());
-    }
     QItemSelection selection;
-    const QItemSelectionRange range = ToRange(TableSelectionRegion::Rectangle(top, left, bottom, right));
+    const QItemSelectionRange range = ToRange(
+        TableSelectionRegion::Rectangle(envelope->top, envelope->left, envelope->bottom, envelope->right));
     if (range.isValid())
         selection.append(range);
     return selection;
 }
 
-void TableSelectionModel::EmitChanges(const Snapshot& before)
+void TableSelectionModel::EmitChanges(const Snapshot& snapshot)
 {
-    const bool regionsChanged = before.regions != m_regions;
-    const bool draggedChanged = before.dragged != m_dragged;
+    const TableSelectionState& before = snapshot.state;
+    const bool regionsChanged = before.regions != m_state.regions;
+    const bool draggedChanged = before.dragged != m_state.dragged;
     if (regionsChanged || draggedChanged) {
-        std::vector<TableSelectionRegion> now = m_regions;
+        std::vector<TableSelectionRegion> now = m_state.regions;
         std::vector<TableSelectionRegion> then = before.regions;
-        if (m_dragged)
-            now.push_back(*m_dragged);
+        if (m_state.dragged)
+            now.push_back(*m_state.dragged);
         if (before.dragged)
             then.push_back(*before.dragged);
         emit selectionChanged(ToEnvelopeSelection(now), ToEnvelopeSelection(then));
     }
-    if (before.regions.size() != m_regions.size())
+    if (before.regions.size() != m_state.regions.size())
         emit regionCountChanged();
     if (draggedChanged) {
         emit currentRegionChanged(before.dragged ? ToRange(*before.dragged) : QItemSelectionRange());
-        if (before.dragged.has_value() != m_dragged.has_value())
+        if (before.dragged.has_value() != m_state.dragged.has_value())
             emit activeRectangleSelectingChanged();
     }
-    if (before.selectedAll != m_selectedAll)
+    if (before.selectedAll != m_state.selectedAll)
         emit selectedAllChanged();
-    if (before.wholeRows != m_wholeRows)
-        emit rowSelectionChanged(Minus(m_wholeRows, before.wholeRows), Minus(before.wholeRows, m_wholeRows));
-    if (before.extraRows != m_extraRows)
-        emit rowExtraHighlightChanged(Minus(m_extraRows, before.extraRows),
-                                      Minus(before.extraRows, m_extraRows));
-    if (before.currentRow != m_currentRow || before.currentColumn != m_currentColumn) {
+    if (before.wholeRows != m_state.wholeRows)
+        emit rowSelectionChanged(Minus(m_state.wholeRows, before.wholeRows),
+                                 Minus(before.wholeRows, m_state.wholeRows));
+    if (snapshot.extraRows != m_extraRows)
+        emit rowExtraHighlightChanged(Minus(m_extraRows, snapshot.extraRows),
+                                      Minus(snapshot.extraRows, m_extraRows));
+    if (before.current != m_state.current) {
         const QModelIndex previous
-            = m_model ? m_model->index(before.currentRow, before.currentColumn) : QModelIndex();
+            = m_model ? m_model->index(before.current.row, before.current.column) : QModelIndex();
         emit currentSelectedIndexChanged(previous);
     }
 }
@@ -652,26 +563,7 @@ void TableSelectionModel::OnRowsRemoved(const QModelIndex& parent, int first, in
     if (parent.isValid())
         return;
     ChangeScope scope(*this);
-    const int count = last - first + 1;
-    std::vector<TableSelectionRegion> regions;
-    for (TableSelectionRegion& region : m_regions) {
-        if (region.RemoveRows(first, last))
-            regions.push_back(std::move(region));
-    }
-    m_regions = std::move(regions);
-    if (m_dragged && !m_dragged->RemoveRows(first, last))
-        m_dragged.reset();
-    std::set<int> rows;
-    for (int row : m_wholeRows) {
-        if (row < first)
-            rows.insert(row);
-        else if (row > last)
-            rows.insert(row - count);
-    }
-    m_wholeRows = std::move(rows);
-    if (m_regions.empty())
-        m_selectedAll = false;
-    FollowRemovedLines(Qt::Vertical, first, last);
+    m_state.RemoveRows(first, last);
 }
 
 void TableSelectionModel::OnRowsInserted(const QModelIndex& parent, int first, int last)
@@ -679,37 +571,11 @@ void TableSelectionModel::OnRowsInserted(const QModelIndex& parent, int first, i
     if (parent.isValid())
         return;
     ChangeScope scope(*this);
-    if (std::unique_ptr<Snapshot> refilled = std::move(m_beforeRefill);
-        refilled && first == 0 && m_regions.empty()) {
-        const int rows = last + 1;
-        for (TableSelectionRegion& region : refilled->regions) {
-            if (region.RemoveRows(rows, std::max(rows, region.GetBottom())))
-                m_regions.push_back(std::move(region));
-        }
-        m_selectedAll = refilled->selectedAll && !m_regions.empty();
-        for (int row : refilled->wholeRows) {
-            if (row < rows)
-                m_wholeRows.insert(row);
-        }
-        if (refilled->currentRow < rows) {
-            SetCurrent(refilled->currentRow, refilled->currentColumn);
-            SetAnchor(refilled->currentRow, refilled->currentColumn);
-        }
-        return;
-    }
-    const int count = last - first + 1;
-    for (TableSelectionRegion& region : m_regions)
-        region.InsertRows(first, count);
-    if (m_dragged)
-        m_dragged->InsertRows(first, count);
-    std::set<int> rows;
-    for (int row : m_wholeRows)
-        rows.insert(row >= first ? row + count : row);
-    m_wholeRows = std::move(rows);
-    for (int* row : { &m_currentRow, &m_anchorRow, &m_extentRow }) {
-        if (*row >= first)
-            *row += count;
-    }
+    std::unique_ptr<TableSelectionState> refilled = std::move(m_beforeRefill);
+    if (refilled && first == 0 && m_state.regions.empty())
+        m_state.InsertRefilledRows(std::move(*refilled), last + 1);
+    else
+        m_state.InsertRows(first, last - first + 1);
 }
 
 void TableSelectionModel::OnColumnsRemoved(const QModelIndex& parent, int first, int last)
@@ -718,35 +584,7 @@ void TableSelectionModel::OnColumnsRemoved(const QModelIndex& parent, int first,
         return;
     m_beforeRefill.reset(); // a new table is coming, not a refill of this one
     ChangeScope scope(*this);
-    std::vector<TableSelectionRegion> regions;
-    for (TableSelectionRegion& region : m_regions) {
-        if (region.RemoveColumns(first, last))
-            regions.push_back(std::move(region));
-    }
-    m_regions = std::move(regions);
-    if (m_dragged && !m_dragged->RemoveColumns(first, last))
-        m_dragged.reset();
-    if (m_regions.empty()) {
-        m_selectedAll = false;
-        m_wholeRows.clear();
-    }
-    FollowRemovedLines(Qt::Horizontal, first, last);
-}
-
-void TableSelectionModel::FollowRemovedLines(Qt::Orientation orientation, int first, int last)
-{
-    const int count = last - first + 1;
-    for (const auto& [row, column] :
-         { std::pair { &m_currentRow, &m_currentColumn }, std::pair { &m_anchorRow, &m_anchorColumn },
-           std::pair { &m_extentRow, &m_extentColumn } }) {
-        int& line = orientation == Qt::Vertical ? *row : *column;
-        if (line > last) {
-            line -= count;
-        } else if (line >= first) {
-            *row = -1;
-            *column = -1;
-        }
-    }
+    m_state.RemoveColumns(first, last);
 }
 
 void TableSelectionModel::OnColumnsInserted(const QModelIndex& parent, int first, int last)
@@ -754,15 +592,7 @@ void TableSelectionModel::OnColumnsInserted(const QModelIndex& parent, int first
     if (parent.isValid())
         return;
     ChangeScope scope(*this);
-    const int count = last - first + 1;
-    for (TableSelectionRegion& region : m_regions)
-        region.InsertColumns(first, count);
-    if (m_dragged)
-        m_dragged->InsertColumns(first, count);
-    for (int* column : { &m_currentColumn, &m_anchorColumn, &m_extentColumn }) {
-        if (*column >= first)
-            *column += count;
-    }
+    m_state.InsertColumns(first, last - first + 1);
 }
 
 void TableSelectionModel::OnColumnsMoved(const QModelIndex& parent, int start, int end, const QModelIndex&,
@@ -771,34 +601,7 @@ void TableSelectionModel::OnColumnsMoved(const QModelIndex& parent, int start, i
     if (parent.isValid() || !m_model)
         return;
     ChangeScope scope(*this);
-    // Build the permutation the move applied: old column -> new column.
-    std::vector<int> order(static_cast<std::size_t>(m_model->columnCount()));
-    for (std::size_t i = 0; i < order.size(); ++i)
-        order[i] = static_cast<int>(i);
-    const int count = end - start + 1;
-    std::vector<int> before = order;
-    std::vector<int> moved(before.begin() + start, before.begin() + end + 1);
-    before.erase(before.begin() + start, before.begin() + end + 1);
-    const int insertAt = column > start ? column - count : column;
-    before.insert(before.begin() + insertAt, moved.begin(), moved.end());
-    std::vector<int> newColumnOf(order.size());
-    for (std::size_t i = 0; i < before.size(); ++i)
-        newColumnOf[static_cast<std::size_t>(before[i])] = static_cast<int>(i);
-
-    std::vector<TableSelectionRegion> regions;
-    for (const TableSelectionRegion& region : m_regions) {
-        for (TableSelectionRegion& piece : region.MapColumns(newColumnOf))
-            regions.push_back(std::move(piece));
-    }
-    m_regions = std::move(regions);
-    m_dragged.reset();
-    auto map = [&](int& value) {
-        if (value >= 0 && value < static_cast<int>(newColumnOf.size()))
-            value = newColumnOf[static_cast<std::size_t>(value)];
-    };
-    map(m_currentColumn);
-    map(m_anchorColumn);
-    map(m_extentColumn);
+    m_state.MoveColumns(start, end, column, m_model->columnCount());
 }
 
 } // namespace Orvo::UI::UIComponents

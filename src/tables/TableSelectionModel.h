@@ -1,6 +1,7 @@
 #pragma once
 
 #include "TableSelectionRegion.h"
+#include "TableSelectionState.h"
 #include "TableSelectionView.h"
 
 #include <QItemSelection>
@@ -51,11 +52,11 @@ public:
 
     TableContentModel* GetModel() const { return m_model; }
 
-    int getRegionCount() const { return static_cast<int>(m_regions.size()); }
+    int getRegionCount() const { return static_cast<int>(m_state.regions.size()); }
     QModelIndex getCurrentSelectedIndex() const;
     QItemSelectionRange getCurrentRegion() const;
-    bool isActiveRectangleSelecting() const { return m_dragged.has_value(); }
-    bool isSelectedAll() const { return m_selectedAll; }
+    bool isActiveRectangleSelecting() const { return m_state.dragged.has_value(); }
+    bool isSelectedAll() const { return m_state.selectedAll; }
 
     Q_INVOKABLE void select(const QModelIndex& index, int mode, bool ensureVisible);
     Q_INVOKABLE void select(const QModelIndex& index, int mode) { select(index, mode, false); }
@@ -82,25 +83,31 @@ public:
     void ExtendSelection(const TableSelectionView& view, int rows, int columns);
 
     // Queries in content-model coordinates.
-    bool IsCellSelected(int row, int column) const;
+    bool IsCellSelected(int row, int column) const { return m_state.IsCellSelected(row, column); }
     bool IsCellInDraggedRegion(int row, int column) const;
     bool IsWholeRowSelected(int row) const;
     bool IsRowExtraHighlighted(int row) const { return m_extraRows.count(row) > 0; }
     // The content model's selection roles of a cell; invalid for any other role.
     QVariant RoleData(int row, int column, int role) const;
-    int FindRegion(int row, int column) const;
-    bool IsCurrent(int row, int column) const { return row == m_currentRow && column == m_currentColumn; }
-    int GetCurrentRow() const { return m_currentRow; }
-    int GetCurrentColumn() const { return m_currentColumn; }
-    const std::vector<TableSelectionRegion>& GetRegions() const { return m_regions; }
-    // Bounding rows and columns of every selected cell: top, left, bottom, right; nullopt when none.
-    struct Envelope
+    int FindRegion(int row, int column) const { return m_state.FindRegion(row, column); }
+    bool IsCurrent(int row, int column) const
     {
-        int top, left, bottom, right;
-    };
-    std::optional<Envelope> GetSourceEnvelope() const;
+        return m_state.current == TableSelectionState::Cell { row, column };
+    }
+    int GetCurrentRow() const { return m_state.current.row; }
+    int GetCurrentColumn() const { return m_state.current.column; }
+    const std::vector<TableSelectionRegion>& GetRegions() const { return m_state.regions; }
+    // Bounding rows and columns of every selected cell: top, left, bottom, right; nullopt when none.
+    using Envelope = TableSelectionState::Envelope;
+    std::optional<Envelope> GetSourceEnvelope() const
+    {
+        return TableSelectionState::EnvelopeOf(m_state.regions);
+    }
     // Visits every selected cell once, row by row, in ascending order.
-    void ForEachSelectedCell(const std::function<void(int row, int column)>& visit) const;
+    void ForEachSelectedCell(const std::function<void(int row, int column)>& visit) const
+    {
+        m_state.ForEachSelectedCell(visit);
+    }
     void Clear();
 
 signals:
@@ -127,8 +134,6 @@ private:
     void OnRowsInserted(const QModelIndex& parent, int first, int last);
     void OnColumnsRemoved(const QModelIndex& parent, int first, int last);
     void OnColumnsInserted(const QModelIndex& parent, int first, int last);
-    // Points (current cell, anchor, extent) on removed rows or columns are forgotten, later ones move up.
-    void FollowRemovedLines(Qt::Orientation orientation, int first, int last);
     void OnColumnsMoved(const QModelIndex& parent, int start, int end, const QModelIndex& destination,
                         int column);
 
@@ -147,23 +152,13 @@ private:
 
     QPointer<TableContentModel> m_model;
     std::unique_ptr<DirectView> m_directView;
-    std::vector<TableSelectionRegion> m_regions;
-    std::optional<TableSelectionRegion> m_dragged;
+    TableSelectionState m_state;
     int m_dragMode = CleanSelect;
-    bool m_selectedAll = false;
-    std::set<int> m_wholeRows;
     std::set<int> m_extraRows;
-    int m_currentRow = -1;
-    int m_currentColumn = -1;
-    // The fixed corner of a Shift-extension and the moving one, in content-model coordinates.
-    int m_anchorRow = -1;
-    int m_anchorColumn = -1;
-    int m_extentRow = -1;
-    int m_extentColumn = -1;
     int m_changeDepth = 0;
     std::unique_ptr<Snapshot> m_changeStart;
     // The selection of a table whose content the feeder is refilling, to be put back on the new rows.
-    std::unique_ptr<Snapshot> m_beforeRefill;
+    std::unique_ptr<TableSelectionState> m_beforeRefill;
 };
 
 } // namespace Orvo::UI::UIComponents

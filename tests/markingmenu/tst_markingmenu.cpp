@@ -63,8 +63,8 @@ private slots:
     void shouldLoadTheShippedMenuOfANonAsciiInstallationInTheClassicCLocale();
     void showIdleHide_data();
     void showIdleHide();
-    void shouldIgnoreShowRequestsWhileNoSectionIsVisible_data();
-    void shouldIgnoreShowRequestsWhileNoSectionIsVisible();
+    void shouldOpenOnlyWithAVisibleSection_data();
+    void shouldOpenOnlyWithAVisibleSection();
     void shouldFollowTheLogicalSecondaryButton();
     void shouldOfferItsCommandHelperForTheMarkingMenu();
     void shouldDropItsSubscriptionsWithTheItem();
@@ -231,33 +231,39 @@ void tst_MarkingMenu::showIdleHide()
     QCOMPARE(menu.ShowState(), finalState);
 }
 
-void tst_MarkingMenu::shouldIgnoreShowRequestsWhileNoSectionIsVisible_data()
+void tst_MarkingMenu::shouldOpenOnlyWithAVisibleSection_data()
 {
-    QTest::addColumn<bool>("loaded");
-    QTest::newRow("all sections invisible") << true;
-    QTest::newRow("configuration not loaded yet") << false;
+    QTest::addColumn<QString>("configuration"); // null: none loaded
+    QTest::addColumn<bool>("opens");
+    QTest::newRow("all sections invisible") << c_nothingVisibleXml << false;
+    QTest::newRow("configuration not loaded yet") << QString() << false;
+    QTest::newRow("top section only")
+        << "<marking_menu><section id=\"TOP\" visible=\"true\"/></marking_menu>" << true;
+    QTest::newRow("right section only")
+        << "<marking_menu><section id=\"RIGHT\" visible=\"true\"/></marking_menu>" << true;
 }
 
-void tst_MarkingMenu::shouldIgnoreShowRequestsWhileNoSectionIsVisible()
+void tst_MarkingMenu::shouldOpenOnlyWithAVisibleSection()
 {
-    QFETCH(bool, loaded);
+    QFETCH(QString, configuration);
+    QFETCH(bool, opens);
     MarkingMenu menu;
-    if (loaded)
-        menu.loadConfiguration(c_nothingVisibleXml);
+    if (!configuration.isNull())
+        menu.loadConfiguration(configuration);
     QSignalSpy cxChanged(&menu, &MarkingMenu::cxChanged);
     QSignalSpy cyChanged(&menu, &MarkingMenu::cyChanged);
     QSignalSpy shown(&menu, &MarkingMenu::showMarkingMenu);
 
     Post(QStringLiteral("show 10 20"));
-    QCOMPARE(menu.ShowState(), 0);
+    QCOMPARE(menu.ShowState(), opens ? 2 : 0);
     Post(QStringLiteral("idle"));
     Post(QStringLiteral("idle"));
 
-    QCOMPARE(cxChanged.count(), 0);
-    QCOMPARE(cyChanged.count(), 0);
-    QCOMPARE(shown.count(), 0);
-    QCOMPARE(menu.cx(), 0.0);
-    QCOMPARE(menu.cy(), 0.0);
+    QCOMPARE(shown.count(), opens ? 1 : 0);
+    QCOMPARE(cxChanged.count(), opens ? 1 : 0);
+    QCOMPARE(cyChanged.count(), opens ? 1 : 0);
+    QCOMPARE(menu.cx(), opens ? 10.0 : 0.0);
+    QCOMPARE(menu.cy(), opens ? 20.0 : 0.0);
 }
 
 void tst_MarkingMenu::shouldFollowTheLogicalSecondaryButton()

@@ -152,6 +152,10 @@ private slots:
         QTest::newRow("=<5 compares with the text <5") << "=<5" << Text("<5") << true;
         QTest::newRow("=<5 reads 5 when the cell is a number") << "=<5" << Integer(4) << false;
         QTest::newRow("text equality ignores case") << "=abc" << Text(" ABC ") << true;
+        QTest::newRow("<=abc accepts abc") << "<=abc" << Text("abc") << true;
+        QTest::newRow(">=abc accepts abc") << ">=abc" << Text("abc") << true;
+        QTest::newRow("<abc rejects abc") << "<abc" << Text("abc") << false;
+        QTest::newRow(">abc rejects abc") << ">abc" << Text("abc") << false;
         QTest::newRow("natural order") << "<item10" << Text("item2") << true;
         QTest::newRow("leading zeros") << "=x007" << Text("X7") << true;
         QTest::newRow("accents folded") << "=Angstrom" << Text("Ångström") << true;
@@ -196,6 +200,7 @@ private slots:
         QTest::newRow("bool by its list text") << "Yes" << List(TableValueType::Bool, { "Yes", "No" }, { true, false }, 0) << true;
         QTest::newRow("list text") << "TWO" << List(TableValueType::List, { "one", "two" }, { 1, 2 }, 1) << true;
         QTest::newRow("list index past the list") << "x" << List(TableValueType::List, { "x" }, { "x" }, 3) << false;
+        QTest::newRow("list index at the list's size") << "x" << List(TableValueType::List, { "x" }, { "x" }, 1) << false;
         QTest::newRow("colour by name") << "whi" << Color("#ffffff", "White") << true;
         QTest::newRow("colour never by value") << "ff" << Color("#ffffff", "White") << false;
         QTest::newRow("colour name folded") << "grun" << Color("#55c388", "Grün") << true;
@@ -271,6 +276,8 @@ private slots:
         // clang-format off
         QTest::newRow("shorter number first") << "item2" << "item10" << -1;
         QTest::newRow("case ignored") << "ABC" << "abc" << 0;
+        QTest::newRow("z upper-cased like every letter") << "zeta" << "ZETA" << 0;
+        QTest::newRow("z as Z sorts before _") << "z" << "_" << -1;
         QTest::newRow("case ignored beyond ASCII") << "жук" << "ЖУК" << 0;
         QTest::newRow("leading zeros ignored") << "007" << "7" << 0;
         QTest::newRow("after equal numbers") << "x007y" << "x7z" << -1;

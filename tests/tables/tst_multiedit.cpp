@@ -140,6 +140,44 @@ private slots:
             QCOMPARE(feeder.rows[static_cast<std::size_t>(row)][3].parameterIndex, 1);
     }
 
+    void shouldGiveANamedValueCellOnlyValuesOfItsList_data()
+    {
+        QTest::addColumn<int>("action");
+        QTest::addColumn<QString>("operand");
+        QTest::addColumn<QStringList>("pending"); // rows 0..1 use "2" and "4" of 1, 2, 4, 8
+        QTest::newRow("results in the list") << 2 << "2" << QStringList { "4", "8" };
+        QTest::newRow("results outside the list") << 0 << "1" << QStringList { "", "" };
+        QTest::newRow("one result in the list") << 2 << "4" << QStringList { "8", "" };
+        QTest::newRow("round onto the list or unchanged") << 4 << "4" << QStringList { "4", "" };
+    }
+
+    void shouldGiveANamedValueCellOnlyValuesOfItsList()
+    {
+        // Given integer cells that take one of the named values 1, 2, 4 and 8, selected
+        QFETCH(int, action);
+        QFETCH(QString, operand);
+        QFETCH(QStringList, pending);
+        const QStringList sizes { "1", "2", "4", "8" };
+        std::vector<std::vector<TableCellContent>> rows;
+        for (int index : { 1, 2 }) {
+            TableCellContent cell = Parameter(sizes, index);
+            cell.valueType = TableValueType::Integer;
+            rows.push_back({ cell });
+        }
+        TableContentModel model;
+        TableTestFeeder feeder(model);
+        model.setAllowEdit(true);
+        feeder.SetTable({ Column("size", TableValueType::Integer) }, rows);
+        feeder.Load();
+        model.selectionModel()->select(model.index(0, 0), TableSelectionModel::CleanSelect);
+        model.selectionModel()->selectRegion(model.index(1, 0), TableSelectionModel::CleanSelect);
+        // When an arithmetic operator is applied
+        model.setDataForSelection(action, operand);
+        // Then only names of the list are queued
+        for (int row = 0; row < 2; ++row)
+            QCOMPARE(model.GetPendingUpdate().GetValue(row, 0).toString(), pending[row]);
+    }
+
     void shouldSearchWithWrapAndReport()
     {
         TableContentModel model;

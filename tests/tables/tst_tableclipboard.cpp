@@ -1,5 +1,4 @@
 #include "TableFixture.h"
-#include "tables/TableClipboard.h"
 
 #include <QClipboard>
 #include <QGuiApplication>
@@ -43,23 +42,29 @@ private slots:
         QVERIFY(fixture.model.GetPendingUpdate().IsEmpty());
     }
 
-    void shouldTellAHeaderLineFromData_data()
+    void shouldSkipOnlyAHeaderLineWhenPasting_data()
     {
-        QTest::addColumn<QString>("line");
-        QTest::addColumn<bool>("header");
-        QTest::newRow("two labels") << "Label name\tLabel count\tB1" << true;
-        QTest::newRow("one label alone") << "Label mark" << true;
-        QTest::newRow("only the first field is a label") << "Label name\tB1\t3" << false;
-        QTest::newRow("only the second field is a label") << "B1\tLabel count" << false;
-        QTest::newRow("data") << "B1\t3" << false;
+        QTest::addColumn<QString>("firstLine");
+        QTest::addColumn<QString>("firstName"); // the name pasted into row 0
+        QTest::newRow("two labels") << "Label name\tLabel count\tB1" << "B9";
+        QTest::newRow("one label alone") << "Label mark" << "B9";
+        QTest::newRow("only the first field is a label") << "Label name\t3" << "Label name";
+        QTest::newRow("only the second field is a label") << "B1\tLabel count" << "B1";
+        QTest::newRow("data") << "B1\t3" << "B1";
     }
 
-    void shouldTellAHeaderLineFromData()
+    void shouldSkipOnlyAHeaderLineWhenPasting()
     {
-        QFETCH(QString, line);
-        QFETCH(bool, header);
-        Fixture fixture(2);
-        QCOMPARE(TableClipboard(fixture.model).IsHeaderLine(line), header);
+        // Given row 0's name current
+        QFETCH(QString, firstLine);
+        QFETCH(QString, firstName);
+        Fixture fixture(3);
+        fixture.SelectShown(0, 0);
+        // When a text whose first line may be a header is pasted
+        QGuiApplication::clipboard()->setText(firstLine + QStringLiteral("\nB9\t4"));
+        fixture.model.pasteFromClipboard();
+        // Then a header line is skipped and any other line is the first row's data
+        QCOMPARE(fixture.model.GetPendingUpdate().GetValue(0, 0).toString(), firstName);
     }
 
     void shouldCopyTheSelectionWithAHeaderLine()
@@ -68,12 +73,13 @@ private slots:
         TableSelectionModel* selection = fixture.model.selectionModel();
         selection->select(fixture.model.index(1, 0), TableSelectionModel::CleanSelect);
         selection->select(fixture.model.index(1, 2), TableSelectionModel::Toggle);
-        selection->select(fixture.model.index(2, 3), TableSelectionModel::Toggle);
+        selection->select(fixture.model.index(3, 3), TableSelectionModel::Toggle);
         fixture.model.copyToClipboard();
+        // Row 2 between the two selected regions has no line
         QCOMPARE(QGuiApplication::clipboard()->text(),
                  QStringLiteral("Label name\tLabel count\tLabel length\tLabel material\n"
                                 "B2\t\t3\t\n"
-                                "\t\t\tC30/37"));
+                                "\t\t\tS235"));
     }
 
     void shouldPasteInOneUpdateAndAddSurplusLinesAsNewRows()
@@ -87,7 +93,7 @@ private slots:
         QGuiApplication::clipboard()->setText(QStringLiteral("Label name\tLabel count\n"
                                                              "P1\tabc\textra\tx\tread-only\tbeyond\n"
                                                              "P2\t5\n"
-                                                             "P3\t7\n"));
+                                                             "P3\t7\t\t\tM3\n"));
         fixture.model.pasteFromClipboard();
         QCOMPARE(changes.count(), 1);
         const TableContentUpdate& pending = fixture.model.GetPendingUpdate();
@@ -96,6 +102,7 @@ private slots:
         QVERIFY(!pending.Contains(1, 4)); // read-only column
         QCOMPARE(pending.GetValue(2, 1).toString(), QStringLiteral("5"));
         QCOMPARE(pending.GetValue(3, 0).toString(), QStringLiteral("P3")); // the new row
+        QVERIFY(!pending.Contains(3, 4)); // read-only column of the new row
         QCOMPARE(pending.MaxRow(), 3);
 
         fixture.model.confirmUpdate();

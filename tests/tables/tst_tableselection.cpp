@@ -51,7 +51,7 @@ private slots:
         QTest::addColumn<QString>("script");
         QTest::addColumn<QStringList>("expected");
         // Steps: c=click, t=Ctrl-click, s=Shift-click, d=drag from the current anchor, r=row header,
-        // R=Shift row header, k=Shift+arrow, a=select all; each with "row,column".
+        // T=Ctrl row header, R=Shift row header, k=Shift+arrow; each with "row,column".
         QTest::newRow("click") << "c1,1" << QStringList { "1:1" };
         QTest::newRow("click replaces") << "c1,1 c2,2" << QStringList { "2:2" };
         QTest::newRow("ctrl-click adds") << "c1,1 t3,0" << QStringList { "1:1", "3:0" };
@@ -63,6 +63,9 @@ private slots:
             << "c0,0 s2,2 t1,1" << QStringList { "0:0", "0:1", "0:2", "1:0", "1:2", "2:0", "2:1", "2:2" };
         QTest::newRow("drag") << "c0,0 d1,1" << QStringList { "0:0", "0:1", "1:0", "1:1" };
         QTest::newRow("row header") << "r2,0" << QStringList { "2:0", "2:1", "2:2", "2:3", "2:4" };
+        QTest::newRow("ctrl row header deselects a selected row") << "r2,0 T2,0" << QStringList {};
+        QTest::newRow("ctrl row header adds and removes rows")
+            << "r1,0 T3,0 T1,0" << QStringList { "3:0", "3:1", "3:2", "3:3", "3:4" };
         QTest::newRow("rows from the last")
             << "r1,0 R2,0"
             << QStringList { "1:0", "1:1", "1:2", "1:3", "1:4", "2:0", "2:1", "2:2", "2:3", "2:4" };
@@ -104,6 +107,9 @@ private slots:
                 break;
             case 'r':
                 selection->selectRow(row, TableSelectionModel::CleanSelect);
+                break;
+            case 'T':
+                selection->selectRow(row, TableSelectionModel::Toggle);
                 break;
             case 'R':
                 selection->selectRowFromLast(row);
@@ -188,12 +194,16 @@ private slots:
         Fixture fixture(20);
         QAbstractItemModelTester tester(fixture.filter(),
                                         QAbstractItemModelTester::FailureReportingMode::QtTest);
-        // Given the rows with count 2 shown (source rows 2, 9, 16)
-        fixture.selection()->select(fixture.View(0, 0), TableSelectionModel::CleanSelect);
+        // Given a selected row that the filter will keep, when the rows with count 2 are shown
+        // (source rows 2, 9, 16)
+        fixture.selection()->selectRow(2, TableSelectionModel::CleanSelect);
         QVERIFY(
             fixture.filterBar.setData(fixture.filterBar.index(1), "=2", FilterBarModel::ConditionTextRole));
-        QVERIFY(!fixture.selection()->getCurrentSelectedIndex().isValid()); // filtering resets the selection
         QCOMPARE(fixture.filter()->rowCount(), 3);
+        // Then filtering started a new selection all the same
+        QVERIFY(!fixture.selection()->getCurrentSelectedIndex().isValid());
+        QVERIFY(fixture.Selected().isEmpty());
+        QVERIFY(!fixture.selection()->isRowSelected(0));
 
         // When a rectangle is drawn over the first two shown rows
         fixture.selection()->select(fixture.View(0, 0), TableSelectionModel::CleanSelect);

@@ -90,8 +90,11 @@ void tst_MixedValues::shouldHandTheValuesToQmlInFirstSeenOrder()
 {
     MixedValues mixed;
     QVERIFY(mixed.GetVariantList().isEmpty());
-    for (const auto& value : Values { 2.5, MixedValues::Integer(-4), QStringLiteral("S355"), false, 2.5,
-                                      MixedValues::Action { 12 } })
+    mixed.AddUnique(2.5);
+    QCOMPARE(mixed.GetVariantList(), QVariantList { 2.5 });
+    // A list handed out before does not hide values added after it
+    for (const auto& value :
+         Values { MixedValues::Integer(-4), QStringLiteral("S355"), false, 2.5, MixedValues::Action { 12 } })
         mixed.AddUnique(value);
 
     const QVariantList list = mixed.GetVariantList();

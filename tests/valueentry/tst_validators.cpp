@@ -14,6 +14,8 @@ class tst_Validators : public QObject
 private slots:
     void shouldValidate_data();
     void shouldValidate();
+    void realShouldAcceptOnlyValuesWithinItsBounds_data();
+    void realShouldAcceptOnlyValuesWithinItsBounds();
     void realShouldNotifyBoundsAndDecimalsOnEverySet();
     void shouldNotifyExpressionAllowedOnlyFromTheIntegerValidator();
 };
@@ -86,6 +88,38 @@ void tst_Validators::shouldValidate()
     QCOMPARE(validator.validate(input, pos), state);
     const bool acceptable = integer ? integerValidator.acceptable(input) : realValidator.acceptable(input);
     QCOMPARE(acceptable, state == QValidator::Acceptable);
+}
+
+void tst_Validators::realShouldAcceptOnlyValuesWithinItsBounds_data()
+{
+    QTest::addColumn<QString>("locale");
+    QTest::addColumn<QString>("input");
+    QTest::addColumn<bool>("acceptable");
+    // A decimal point is read in every locale; the bounds hold however the number is written.
+    QTest::newRow("C: below bottom") << "C" << "0.5" << false;
+    QTest::newRow("C: above top") << "C" << "10.5" << false;
+    QTest::newRow("C: within") << "C" << "5.5" << true;
+    QTest::newRow("C: the bounds themselves") << "C" << "10" << true;
+    QTest::newRow("German: below bottom") << "de_DE" << "0,5" << false;
+    QTest::newRow("German: above top") << "de_DE" << "10,5" << false;
+    QTest::newRow("German: below bottom with a point") << "de_DE" << "0.5" << false;
+    QTest::newRow("German: above top with a point") << "de_DE" << "10.5" << false;
+    QTest::newRow("German: within") << "de_DE" << "5,5" << true;
+    QTest::newRow("German: within with a point") << "de_DE" << "5.5" << true;
+}
+
+void tst_Validators::realShouldAcceptOnlyValuesWithinItsBounds()
+{
+    QFETCH(QString, locale);
+    QFETCH(QString, input);
+    QFETCH(bool, acceptable);
+    const QLocale previous;
+    QLocale::setDefault(QLocale(locale));
+    RealValidator validator;
+    QLocale::setDefault(previous);
+    validator.setBottom(1.0);
+    validator.setTop(10.0);
+    QCOMPARE(validator.acceptable(input), acceptable);
 }
 
 void tst_Validators::realShouldNotifyBoundsAndDecimalsOnEverySet()
