@@ -15,6 +15,7 @@ packages=(
     libgl-dev libvulkan-dev libxkbcommon-dev
     libpugixml-dev libmuparser-dev libbenchmark-dev
     libeigen3-dev libqt6sql6-sqlite
+    clang libclang-rt-14-dev
     xvfb xauth libgl1-mesa-dri libglx-mesa0 libegl-mesa0
 )
 
