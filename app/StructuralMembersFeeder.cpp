@@ -31,9 +31,10 @@ quint32 Hash(int member, int salt)
 }
 
 TableColumn Column(const char* id, const char* labelId, TableValueType type, int width, bool required = false,
-                   bool editable = true)
+                   bool editable = true, const char* unit = "")
 {
     TableColumn column;
+    column.unit = QString::fromUtf8(unit);
     column.id = QString::fromLatin1(id);
     column.label = GetText(QString::fromLatin1(labelId));
     column.type = type;
@@ -65,9 +66,9 @@ StructuralMembersFeeder::StructuralMembersFeeder(QObject* parent)
         { Column("type", "UI_DEMO_MEMBER_TYPE", TableValueType::List, 96), true },
         { Column("section", "UI_DEMO_MEMBER_SECTION", TableValueType::String, 128), true },
         { Column("material", "UI_DEMO_MEMBER_MATERIAL", TableValueType::List, 96, true), true },
-        { Column("length", "UI_DEMO_MEMBER_LENGTH", TableValueType::Real, 96), true },
+        { Column("length", "UI_DEMO_MEMBER_LENGTH", TableValueType::Real, 96, false, true, "m"), true },
         { Column("count", "UI_DEMO_MEMBER_COUNT", TableValueType::Integer, 64), true },
-        { Column("rotation", "UI_DEMO_MEMBER_ROTATION", TableValueType::Real, 96), true },
+        { Column("rotation", "UI_DEMO_MEMBER_ROTATION", TableValueType::Real, 96, false, true, "\u00B0"), true },
         { Column("fixed", "UI_DEMO_MEMBER_FIXED", TableValueType::Bool, 64), true },
         { Column("colour", "UI_DEMO_MEMBER_COLOUR", TableValueType::Color, 128), true },
         { Column("utilisation", "UI_DEMO_MEMBER_UTILISATION", TableValueType::Real, 96, false, false), true },

@@ -963,6 +963,22 @@
         <source>Structural members of the model. Type a filter under a column title (5, &lt;=5, [2;4], S355) and press Enter to apply it, click a title to sort, drag its edge to resize or the title itself to move the column. Double-click or start typing to edit; numbers may be expressions with units such as =2*1,5 or 2500mm. Ctrl+Home and Ctrl+End go to the first and the last line. The last line (*) adds a member. Ctrl+C and Ctrl+V copy and paste; the box above edits every selected cell at once (+5, *2, ~0.5, &gt;S355, ?IPE).</source>
         <translation>Structural members of the model. Type a filter under a column title (5, &lt;=5, [2;4], S355) and press Enter to apply it, click a title to sort, drag its edge to resize or the title itself to move the column. Double-click or start typing to edit; numbers may be expressions with units such as =2*1,5 or 2500mm. Ctrl+Home and Ctrl+End go to the first and the last line. The last line (*) adds a member. Ctrl+C and Ctrl+V copy and paste; the box above edits every selected cell at once (+5, *2, ~0.5, &gt;S355, ?IPE).</translation>
     </message>
+    <message id="UI_DEMO_TABLES_SOURCE">
+        <source>Table</source>
+        <translation>Table</translation>
+    </message>
+    <message id="UI_DEMO_TABLES_GENERATED">
+        <source>100,000 generated members</source>
+        <translation>100,000 generated members</translation>
+    </message>
+    <message id="UI_DEMO_TABLES_MODEL_HINT">
+        <source>A table of the structural model: every edit, paste, multi-edit, new row and deletion is one step of the undo history (Ctrl+Z, Ctrl+Y), and the model view, the properties panel and this table follow each step.</source>
+        <translation>A table of the structural model: every edit, paste, multi-edit, new row and deletion is one step of the undo history (Ctrl+Z, Ctrl+Y), and the model view, the properties panel and this table follow each step.</translation>
+    </message>
+    <message id="UI_DEMO_TABLES_ROWS">
+        <source>%1 of %2 rows shown</source>
+        <translation>%1 of %2 rows shown</translation>
+    </message>
     <message id="UI_DEMO_TABLES_STATUS">
         <source>%1 of %2 members shown</source>
         <translation>%1 of %2 members shown</translation>

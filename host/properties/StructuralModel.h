@@ -64,6 +64,8 @@ public:
     QString Text(const Model::ModelMessage& message) const;
     // The text of an identifier without markup (property names may be rich text).
     QString PlainText(const QString& textId) const;
+    // The objects as a step's name says them: "Member 4", "2 members", "3 objects".
+    QString ObjectsPhrase(const std::vector<ObjectId>& ids) const;
 
     // Replaces the whole structure (a generated model, a file read): not a step of the undo
     // stack, which it empties.
@@ -144,7 +146,6 @@ private:
     void CloseChange();
     void Announce(const Model::StructureChange& change);
     void DropMissingFromSelection();
-    QString ObjectsPhrase(const std::vector<ObjectId>& ids) const;
     void NotifySelectionChanged();
 
     std::shared_ptr<EventBus> m_eventBus;

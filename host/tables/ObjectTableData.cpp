@@ -6,6 +6,7 @@
 #include "properties/StructuralModel.h"
 
 #include <algorithm>
+#include <set>
 
 namespace Orvo::Kernel::Tables {
 
@@ -320,20 +321,23 @@ QString ObjectTableData::UpdateName(const TableDataUpdate& update, int rowCount)
 {
     int cells = 0;
     int newRows = 0;
+    std::set<std::wstring> columns;
+    std::vector<ObjectId> objects;
     for (const auto& [row, values] : update) {
         cells += int(values.size());
         newRows += row >= rowCount ? 1 : 0;
+        for (const auto& [columnId, value] : values)
+            columns.insert(columnId);
+        if (const ObjectId id = row < rowCount ? GetObjectAt(row) : 0)
+            objects.push_back(id);
     }
     const QString label = QString::fromStdWString(GetLabel());
-    if (newRows == 0 && cells == 1) {
-        const auto& [row, values] = *update.begin();
-        const PropertyDefinition* definition = Property(values.begin()->first);
-        const ObjectId id = GetObjectAt(row);
-        if (definition && id)
-            return Text(
-                *m_model, QStringLiteral("UI_UNDO_SET_PROPERTY"),
-                { m_model->PlainText(definition->nameId), Model::ObjectRef { m_kind, Model::NumberOf(id) } });
-    }
+    // One property of existing objects (a cell, a column pasted or edited at once) is named as
+    // the properties panel names it, so the two read alike in the undo history.
+    const PropertyDefinition* definition = columns.size() == 1 ? Property(*columns.begin()) : nullptr;
+    if (newRows == 0 && definition && !objects.empty())
+        return Text(*m_model, QStringLiteral("UI_UNDO_SET_PROPERTY"),
+                    { m_model->PlainText(definition->nameId), m_model->ObjectsPhrase(objects) });
     if (newRows == int(update.size()))
         return newRows == 1
             ? Text(*m_model, QStringLiteral("UI_UNDO_TABLE_ROW"), { label })

@@ -21,6 +21,7 @@
 #include "tables/TableColumnsModel.h"
 #include "tables/TableContentFilterModel.h"
 #include "tables/TableContentModel.h"
+#include "tables/TableInput.h"
 #include "tables/TableSelectionFilterModel.h"
 #include "tables/TableSelectionModel.h"
 #include "tables/TableTabsModel.h"
@@ -63,6 +64,7 @@ void RegisterQtComponentsTypes(const char* uri)
     qmlRegisterType<RealValidator>(uri, major, minor, "RealValidator");
     qmlRegisterType<InlineCalculator>(uri, major, minor, "InlineCalculator");
     qmlRegisterType<IllustrationData>(uri, major, minor, "IllustrationData");
+    qmlRegisterType<TableInput>(uri, major, minor, "TableInput_Cpp");
     qmlRegisterType<TableWorkstationsModel>(uri, major, minor, "TableWorkstationsModel");
     qmlRegisterType<TableTabsModel>(uri, major, minor, "TableTabsModel");
     qmlRegisterType<TableColumnsModel>(uri, major, minor, "TableColumnsModel");

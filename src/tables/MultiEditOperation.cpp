@@ -28,7 +28,7 @@ std::optional<QVariant> MultiEditOperation::ApplyArithmetic(int action, const Ce
 {
     if (cell.type != TableValueType::Integer && cell.type != TableValueType::Real)
         return std::nullopt;
-    const auto by = TableNumberText::Parse(operand);
+    const auto by = TableNumberText::Parse(operand, cell.unit).number;
     bool ok = false;
     const double value = cell.value.toString().isEmpty() ? 0.0 : cell.value.toDouble(&ok);
     if (!by || (!ok && !cell.value.toString().isEmpty()))
@@ -93,7 +93,8 @@ std::optional<QVariant> MultiEditOperation::ApplyReplace(const Cell& cell, const
             return std::nullopt;
     }
     const QString value
-        = TableContentModel::CreateContentUpdateValue(operand, cell.type, cell.parametersNames);
+        = TableCellText::CreateContentUpdateValue(operand, cell.type, cell.parametersNames, TableNumberText(),
+                                                  cell.unit);
     if (value.isNull())
         return std::nullopt;
     return value;

@@ -21,6 +21,7 @@ public:
         QStringList parametersNames; // names a list or parameter cell can take
         QStringList allValues; // choices of a list cell
         bool usesParameter = false; // the cell shows one of its parameter names
+        QString unit; // of the column's numbers: "+5cm" adds 0.05 to a column in metres
     };
 
     // The new value of the cell, or nullopt when the operator leaves it as it is.

@@ -21,7 +21,8 @@ TableContentUpdate MultiEditSelection::Edits(int action, const QString& operand)
         const QVariant pending = m_model.PendingValue(row, column);
         const MultiEditOperation::Cell current { pending.isValid() ? pending : cell.content,
                                                  m_model.GetValueType(row, column), cell.parametersNames,
-                                                 cell.allValues, cell.parameterIndex != -1 };
+                                                 cell.allValues, cell.parameterIndex != -1,
+                                                 m_model.GetColumns()[static_cast<std::size_t>(column)].unit };
         const auto result = MultiEditOperation::Apply(action, current, operand);
         if (result && *result != current.value)
             edits.SetValue(row, column, *result);

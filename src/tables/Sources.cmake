@@ -46,4 +46,5 @@ target_sources(QtComponentsCore PRIVATE
     ${CMAKE_CURRENT_LIST_DIR}/TableTabsModel.h ${CMAKE_CURRENT_LIST_DIR}/TableTabsModel.cpp
     ${CMAKE_CURRENT_LIST_DIR}/TableTabsFilterModel.h ${CMAKE_CURRENT_LIST_DIR}/TableTabsFilterModel.cpp
     ${CMAKE_CURRENT_LIST_DIR}/TableWorkstationsModel.h ${CMAKE_CURRENT_LIST_DIR}/TableWorkstationsModel.cpp
+    ${CMAKE_CURRENT_LIST_DIR}/TableInput.h ${CMAKE_CURRENT_LIST_DIR}/TableInput.cpp
 )

@@ -2,7 +2,9 @@
 
 #include "TableColorPalette.h"
 #include "TablesLogging.h"
+#include "plugin/QtComponentsText.h"
 
+#include <algorithm>
 #include <cmath>
 #include <cstdint>
 #include <limits>
@@ -177,31 +179,54 @@ int TableCellText::FindParameter(const QStringList& parametersNames, const QVari
     return -1;
 }
 
-QString TableCellText::CreateContentUpdateValue(const QString& text, TableValueType type,
-                                                const QStringList& parametersNames,
-                                                const TableNumberText& numbers)
+TableCellText::Reading TableCellText::ReadTyped(const QString& text, TableValueType type,
+                                               const QStringList& parametersNames,
+                                               const TableNumberText& numbers, const QString& unit)
 {
     if (!IsNumeric(type))
-        return text;
+        return { text, {} };
     // A parameter name is taken as the user wrote it; the host matches names without case.
     if (FindParameter(parametersNames, text) >= 0)
-        return text;
+        return { text, {} };
     QStringView expression = QStringView(text).trimmed();
-    if (expression.startsWith(QLatin1Char('=')))
+    const bool ledByEquals = expression.startsWith(QLatin1Char('='));
+    if (ledByEquals)
         expression = expression.mid(1);
-    const auto number = TableNumberText::Parse(expression.toString());
-    if (!number)
-        return QString();
+    if (expression.trimmed().isEmpty())
+        return {};
+    // A plain number is the column's number as it stands; an expression is read as a numeric
+    // input of the column's unit reads it.
+    const QString typed = expression.toString();
+    const TableNumberText::Reading reading
+        = IsPlainNumber(typed, true) ? TableNumberText::Reading { TableNumberText::Parse(typed), {} }
+                                     : TableNumberText::Parse(typed, unit);
+    if (!reading.number) {
+        // Text that was not meant as an expression is simply no number; the calculator's own
+        // verdict is kept for expressions and for what it can say more about (a unit that does
+        // not fit the column).
+        const bool generic = reading.message.isEmpty() || reading.message == GetText(QStringLiteral("UI_INLINE_CALC_ERROR"));
+        if (ledByEquals)
+            return { QString(), generic ? GetText(QStringLiteral("UI_INLINE_CALC_ERROR")) : reading.message };
+        return { QString(), generic ? GetText(QStringLiteral("UI_NUMERIC_INPUT_NOT_A_NUMBER")).arg(text.trimmed())
+                                    : reading.message };
+    }
+    const double number = *reading.number;
     switch (type) {
     case TableValueType::Bool:
         if (!parametersNames.isEmpty())
-            return *number != 0.0 ? parametersNames.value(0)
-                                  : parametersNames.value(1, parametersNames.value(0));
-        return *number != 0.0 ? QStringLiteral("1") : QStringLiteral("0");
-    case TableValueType::Integer:
-        return IntegerText(text, *number);
+            return { number != 0.0 ? parametersNames.value(0) : parametersNames.value(1, parametersNames.value(0)),
+                     {} };
+        return { number != 0.0 ? QStringLiteral("1") : QStringLiteral("0"), {} };
+    case TableValueType::Integer: {
+        // A whole number is never made of a fraction: "2.5" is refused, not rounded to 3.
+        if (std::abs(number - std::round(number)) > c_wholeTolerance * std::max(1.0, std::abs(number)))
+            return { QString(), GetText(QStringLiteral("UI_NUMERIC_INPUT_NOT_WHOLE")).arg(numbers.ToEditText(number)) };
+        const QString value = IntegerText(text, number);
+        return { value, value.isNull() ? GetText(QStringLiteral("UI_NUMERIC_INPUT_NOT_A_NUMBER")).arg(text.trimmed())
+                                       : QString() };
+    }
     default:
-        return IsPlainNumber(text, true) ? text.trimmed() : numbers.ToEditText(*number);
+        return { IsPlainNumber(text, true) ? text.trimmed() : numbers.ToEditText(number), {} };
     }
 }
 

@@ -32,17 +32,32 @@ public:
     // The state of a check box holding value (a pending edit may be a text "1" or "0").
     static bool IsChecked(const QVariant& value);
 
-    // The value a typed or pasted text stands for in a cell of that type; a null string when the
-    // text fits neither the type nor one of the parameter names. Numbers may be expressions with
-    // units, led by "=" or not, as in every numeric input.
+    // The value a typed or pasted text stands for in a cell of that type, or why it stands for
+    // none. Numbers may be expressions with units, led by "=" or not; in a column with a unit
+    // they are read in it, and a unit of another quantity is refused as a numeric input refuses
+    // it. A whole-number cell refuses fractions rather than rounding them.
+    struct Reading
+    {
+        QString value; // null when the text is no value of the cell
+        QString reason; // why, in the user's language
+    };
+    static Reading ReadTyped(const QString& text, TableValueType type, const QStringList& parametersNames,
+                             const TableNumberText& numbers, const QString& unit = QString());
+    // The value of ReadTyped alone.
     static QString CreateContentUpdateValue(const QString& text, TableValueType type,
                                             const QStringList& parametersNames,
-                                            const TableNumberText& numbers);
+                                            const TableNumberText& numbers, const QString& unit = QString())
+    {
+        return ReadTyped(text, type, parametersNames, numbers, unit).value;
+    }
 
     // Whether value is what the cell holds already (so an edit to it withdraws a pending one).
     static bool IsCachedValue(const TableCellContent& cell, const QVariant& value, TableValueType type);
     // The parameter name a value stands for, matched case-insensitively; -1 when none.
     static int FindParameter(const QStringList& parametersNames, const QVariant& value);
+
+private:
+    static constexpr double c_wholeTolerance = 1e-9;
 };
 
 } // namespace Orvo::UI::UIComponents

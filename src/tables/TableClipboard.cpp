@@ -80,13 +80,13 @@ QString TableClipboard::PastedValue(int row, int column, bool existingRow, const
         return QString();
     const TableNumberText numbers;
     if (!existingRow)
-        return TableCellText::CreateContentUpdateValue(field, tableColumn.type, {}, numbers);
+        return TableCellText::CreateContentUpdateValue(field, tableColumn.type, {}, numbers, tableColumn.unit);
     const TableCellContent& cell
         = m_model.GetFilledCell(row, column, TableContentModel::ContentRequest::VisibleColumns);
     if (!cell.editable)
         return QString();
     return TableCellText::CreateContentUpdateValue(field, m_model.GetValueType(row, column),
-                                                   cell.parametersNames, numbers);
+                                                   cell.parametersNames, numbers, tableColumn.unit);
 }
 
 TableContentUpdate TableClipboard::PasteUpdate(const QString& text) const

@@ -15,6 +15,7 @@ struct TableColumn
     QString id;
     QString label;
     TableValueType type = TableValueType::Unknown; // Unknown: the type varies per cell
+    QString unit; // of a number column's values ("mm", "kN"); typed units convert into it
     bool required = false;
     bool editable = true;
     QString parentId; // the group column this one belongs to

@@ -427,6 +427,13 @@ int TableContentFilterModel::getColumnMaxWidth() const
     return m_sourceModel ? m_sourceModel->getColumnMaxWidth() : 0;
 }
 
+QString TableContentFilterModel::typedTextRefusal(const QModelIndex& index, const QString& text) const
+{
+    const QModelIndex source = mapToSource(index);
+    return m_sourceModel && source.isValid() ? m_sourceModel->TypedTextRefusal(source.row(), source.column(), text)
+                                             : QString();
+}
+
 void TableContentFilterModel::confirmUpdate()
 {
     if (m_sourceModel)

@@ -92,6 +92,8 @@ public:
     Q_INVOKABLE void copyToClipboard();
     Q_INVOKABLE void pasteFromClipboard();
     Q_INVOKABLE bool isAllRequiredFilledForNewRow() const;
+    // Why text typed into the cell is no value of it; empty when it is one (the editor's message).
+    Q_INVOKABLE QString typedTextRefusal(const QModelIndex& index, const QString& text) const;
     // A filter text that looks like a comparison or a range but is none, for the filter bar to mark.
     Q_INVOKABLE bool isFilterTextMalformed(const QString& text) const;
 

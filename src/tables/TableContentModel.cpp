@@ -412,12 +412,26 @@ bool TableContentModel::SetCellValue(int row, int column, const QVariant& value,
         return false;
     const TablePendingEdits::EditResult result
         = m_pendingEdits.EditCell(row, column, EnsureData(row, column, ContentRequest::VisibleColumns),
-                                  GetValueType(row, column), value, role == ParameterIndexRole);
+                                  GetValueType(row, column), value, role == ParameterIndexRole,
+                                  m_layout.At(column).unit);
     if (result == TablePendingEdits::EditResult::Rejected)
         return false;
     const QModelIndex changed = index(row, column);
     emit dataChanged(changed, changed, { role, ContentRole, TableContentFilterModel::DisplayTextRole });
     return true;
+}
+
+QString TableContentModel::TypedTextRefusal(int row, int column, const QString& text) const
+{
+    if (!m_layout.Contains(column) || row < 0 || row > m_rowCountSubmitted)
+        return {};
+    return CatchAtBoundary("TableContentModel::TypedTextRefusal", QString(), [&]() {
+        const QStringList names = IsNewRow(row)
+            ? QStringList()
+            : EnsureData(row, column, ContentRequest::VisibleColumns).parametersNames;
+        const TableValueType type = IsNewRow(row) ? m_layout.At(column).type : GetValueType(row, column);
+        return TableCellText::ReadTyped(text, type, names, TableNumberText(), m_layout.At(column).unit).reason;
+    });
 }
 
 bool TableContentModel::SetDataForNewRow(int column, const QVariant& value, int role)

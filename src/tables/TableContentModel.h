@@ -239,6 +239,8 @@ public:
     const TableContentUpdate& GetPendingUpdate() const { return m_pendingEdits.Update(); }
     // The edit waiting for a cell; invalid when there is none.
     QVariant PendingValue(int row, int column) const { return m_pendingEdits.Update().GetValue(row, column); }
+    // Why text typed into a cell is no value of it; empty when it is one.
+    QString TypedTextRefusal(int row, int column, const QString& text) const;
     // A record cell that takes edits: its column and the cell itself say so.
     bool IsCellEditable(int row, int column) const;
     // The value type of a cell: the column's, or the cell's own when the column has none.

@@ -1,6 +1,7 @@
 #include "TableNumberText.h"
 
 #include "framework/Calculator.h"
+#include "framework/CalculatorReading.h"
 
 #include <algorithm>
 #include <cmath>
@@ -42,6 +43,19 @@ std::optional<double> TableNumberText::Parse(const QString& text)
     if (!Kernel::Framework::Calculator::Evaluate(text.toStdWString(), value))
         return std::nullopt;
     return value;
+}
+
+TableNumberText::Reading TableNumberText::Parse(const QString& text, const QString& unit)
+{
+    if (unit.isEmpty())
+        return { Parse(text), {} };
+    if (text.trimmed().isEmpty())
+        return {};
+    const auto reading
+        = Kernel::Framework::CalculatorReading::Evaluate(text.toStdWString(), unit.toStdWString());
+    if (!reading.valid)
+        return { std::nullopt, QString::fromStdWString(reading.message) };
+    return { reading.value, {} };
 }
 
 } // namespace Orvo::UI::UIComponents

@@ -25,6 +25,15 @@ public:
 
     // The value of a typed number or expression; nullopt when the text is not one.
     static std::optional<double> Parse(const QString& text);
+    // The same for a column whose values are in unit: an expression naming units is converted
+    // into it, one naming a unit of another quantity is refused with the reason, as a numeric
+    // input of that unit does. Without a unit, Parse.
+    struct Reading
+    {
+        std::optional<double> number;
+        QString message; // why there is no number, when the calculator can say
+    };
+    static Reading Parse(const QString& text, const QString& unit);
     QString ToEditText(double value) const;
     // The value with exactly that many decimals, as a cell with a fixed precision shows it.
     QString ToFixedText(double value, int decimals) const;

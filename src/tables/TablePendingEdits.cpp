@@ -10,7 +10,7 @@ namespace Orvo::UI::UIComponents {
 
 TablePendingEdits::EditResult TablePendingEdits::EditCell(int row, int column, const TableCellContent& cell,
                                                           TableValueType type, QVariant value,
-                                                          bool byParameterIndex)
+                                                          bool byParameterIndex, const QString& unit)
 {
     if (byParameterIndex) {
         const int parameter = value.toInt();
@@ -21,7 +21,7 @@ TablePendingEdits::EditResult TablePendingEdits::EditCell(int row, int column, c
         value = cell.parametersNames[parameter];
     } else if (value.typeId() == QMetaType::QString) {
         value = TableCellText::CreateContentUpdateValue(value.toString(), type, cell.parametersNames,
-                                                        TableNumberText());
+                                                        TableNumberText(), unit);
         if (value.toString().isNull())
             return EditResult::Rejected;
     }

@@ -27,9 +27,10 @@ public:
 
     // An edit of the record cell at row, column whose cached content is cell. Typed text is read
     // as the cell's type reads it (numbers may be expressions, named values match without case);
-    // with byParameterIndex the value picks one of the cell's named values.
+    // with byParameterIndex the value picks one of the cell's named values. Numbers are read in the
+    // column's unit, when it has one.
     EditResult EditCell(int row, int column, const TableCellContent& cell, TableValueType type,
-                        QVariant value, bool byParameterIndex);
+                        QVariant value, bool byParameterIndex, const QString& unit = QString());
     // Queues every value of edits. Returns the block of record rows (below recordCount) and
     // columns they touch, for one repaint; nullopt when they touch none.
     std::optional<QRect> Queue(const TableContentUpdate& edits, int recordCount);

@@ -1,4 +1,6 @@
 #include "PropertiesTestSupport.h"
+#include "commands/IUICommandProcessor.h"
+#include "commands/UICommandProcessor.h"
 #include "framework/ServiceCatalog.h"
 #include "kernel/Directories.h"
 #include "kernel/PathText.h"
@@ -62,6 +64,7 @@ private slots:
     void followsTheHostSelection();
     void entityChoiceNarrowsTheObjects();
     void editsAndHostChangesReachTheList();
+    void editsAreStepsThatTheUndoCommandsWalk();
     void resetToDefaultsKeepsWhatHasNoDefault();
     void refusedValueShowsWhy_data();
     void refusedValueShowsWhy();
@@ -92,6 +95,14 @@ private:
 void tst_PropertiesPanel::initTestCase()
 {
     QVERIFY(m_directory.isValid());
+    QVERIFY(QDir().mkpath(m_directory.filePath("application/Configuration")));
+    QFile commands(m_directory.filePath("application/Configuration/Commands.xml"));
+    QVERIFY(commands.open(QIODevice::WriteOnly));
+    commands.write(R"(<commands>
+  <command uuid="c6d02f75-d199-457a-9a4d-f1246cb8feb4" name="UI_COMMAND_UNDO" shortcut="Ctrl+Z"/>
+  <command uuid="2e4dd56a-f2b6-489b-9dd5-b3ee6a66e276" name="UI_COMMAND_REDO" shortcut="Ctrl+Y"/>
+</commands>)");
+    commands.close();
     Directories::SetDirectory(Directories::DirectoryType::UserConfigurationDirectory,
                               Directories::ToPath(m_directory.filePath("config")));
     Directories::SetDirectory(Directories::DirectoryType::ApplicationDirectory,
@@ -181,6 +192,26 @@ void tst_PropertiesPanel::editsAndHostChangesReachTheList()
     const QModelIndex row = m_panel->sourceModel()->index(m_panel->sourceModel()->FindRow(height));
     QVERIFY(row.data(mixedRole).toBool());
     QCOMPARE(row.data(mixedValuesRole).toList().mid(0, 2), (QVariantList { 500.0, 320.0 }));
+}
+
+void tst_PropertiesPanel::editsAreStepsThatTheUndoCommandsWalk()
+{
+    const auto sections = OfType(StructuralObjectTypes::c_crossSection);
+    m_structure->Select(sections);
+    const QString height = UuidOf("section.height");
+    PropertiesModel& rows = *m_panel->sourceModel();
+    const auto shownHeight = [&]() { return rows.index(rows.FindRow(height)).data(valueRole); };
+    const QVariant before = shownHeight();
+    auto processor = ServiceCatalog::Global()->Get<IUICommandProcessor>();
+
+    QVERIFY(m_panel->setValue(500, height));
+    QCOMPARE(m_structure->UndoStack()->undoText(), "Set Height h of 2 cross-sections");
+    QCOMPARE(shownHeight(), QVariant(500.0));
+
+    QVERIFY(processor->ExecuteCommand(UICommandProcessor::c_undoCommand, L"", L"HotkeyHandler"));
+    QCOMPARE(shownHeight(), before);
+    QVERIFY(processor->ExecuteCommand(UICommandProcessor::c_redoCommand, L"", L"HotkeyHandler"));
+    QCOMPARE(shownHeight(), QVariant(500.0));
 }
 
 void tst_PropertiesPanel::resetToDefaultsKeepsWhatHasNoDefault()

@@ -20,6 +20,10 @@ TestCase {
     SignalSpy { id: executed; target: monitor; signalName: "commandExecuted" }
     CommandListModel { id: commands }
     Component {
+        id: nodesComponent
+        TableInput_Cpp { tableId: "node" }
+    }
+    Component {
         id: messageBoxComponent
         BasicMessageBox { title: "Question"; text: "Keep the changes?" }
     }
@@ -128,5 +132,26 @@ TestCase {
         ignoreWarning(new RegExp("Hotkey " + second.shortcut.replace(/\+/g, "\\+") + " is bound to several commands"))
         keySequence(second.shortcut)
         compare(ranCommands(), [])
+    }
+
+    // The keys walk the host's undo stack, and a table of the model follows each step.
+    function test_ctrlZAndCtrlYWalkTheUndoStack() {
+        const model = createTemporaryObject(nodesComponent, testCase).contentModel
+        let x = -1
+        for (let column = 0; column < model.columnCount; ++column) {
+            if (model.headerData(column, Qt.Horizontal, TableContentModel.ColumnIdRole) === "node.x")
+                x = column
+        }
+        verify(x >= 0)
+        const rows = model.rowCountSubmitted
+        verify(model.setData(model.index(model.newRowIndex, x), "7", TableContentModel.ContentRole))
+        model.confirmUpdate()
+        compare(model.rowCountSubmitted, rows + 1)
+
+        keySequence("Ctrl+Z")
+        compare(model.rowCountSubmitted, rows)
+        keySequence("Ctrl+Y")
+        compare(model.rowCountSubmitted, rows + 1)
+        compare(model.data(model.index(rows, x), TableContentModel.ContentRole), 7)
     }
 }

@@ -20,6 +20,11 @@ Item {
     property var names: []
     property var choices: []
     readonly property bool usesList: !editor.newRow && editor.choices.length > 0
+    // Why the text typed so far is no value of the cell, as a numeric input says it ("kN is a
+    // force; this field takes a length"); empty while it is one.
+    readonly property string refusal: editor.visible && !editor.usesList && editor.table !== null
+                                      && field.text !== editor.initialText
+                                      ? editor.table.typedTextRefusal(editor.modelIndex(), field.text) : ""
     signal finished(bool accepted)
 
     function modelIndex() { return editor.table.index(editor.row, editor.column) }
@@ -42,7 +47,6 @@ Item {
             combo.popup.open()
             return
         }
-        field.invalid = false
         if (typed !== undefined) {
             field.text = typed
             field.cursorPosition = typed.length
@@ -65,11 +69,11 @@ Item {
     function commitText() {
         if (!editor.visible)
             return
-        const accepted = editor.table.setData(editor.modelIndex(), field.text, TableContentModel.ContentRole)
-        if (!accepted && field.text !== editor.initialText)
-            field.invalid = true
-        else
-            editor.close(true)
+        // Refused text stays, marked and with its reason, until the user mends or drops it.
+        if (editor.refusal.length > 0)
+            return
+        editor.table.setData(editor.modelIndex(), field.text, TableContentModel.ContentRole)
+        editor.close(true)
     }
 
     function commitChoice(index) {
@@ -87,12 +91,33 @@ Item {
         anchors.fill: parent
         horizontalAlignment: editor.contentType === TableContentModel.Integer || editor.contentType === TableContentModel.Real
                              ? TextInput.AlignRight : TextInput.AlignLeft
-        onTextEdited: invalid = false
+        invalid: editor.refusal.length > 0
         Keys.onReturnPressed: editor.commitText()
         Keys.onEnterPressed: editor.commitText()
         Keys.onTabPressed: editor.commitText()
         Keys.onEscapePressed: editor.close(false)
         onActiveFocusChanged: if (!activeFocus && editor.visible && !editor.usesList) editor.commitText()
+    }
+
+    // The reason under the cell, over the rows below it, like a tool tip: a table row cannot grow.
+    Rectangle {
+        objectName: "cellEditorMessage"
+        visible: editor.refusal.length > 0
+        anchors { top: field.bottom; left: field.left }
+        width: Math.max(field.width, refusalText.implicitWidth + 12)
+        height: refusalText.implicitHeight + 6
+        z: 1
+        color: BasicConstants.colors.panel
+        border.color: BasicConstants.colors.error
+        Text {
+            id: refusalText
+            objectName: "cellEditorMessageText"
+            anchors.centerIn: parent
+            text: editor.refusal
+            font.family: BasicConstants.fonts.family
+            font.pixelSize: BasicConstants.fonts.small
+            color: BasicConstants.colors.error
+        }
     }
 
     BasicComboBox {
