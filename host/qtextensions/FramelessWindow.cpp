@@ -55,7 +55,13 @@ FramelessWindow::FramelessWindow(QWindow* parent)
     surfaceFormat.setAlphaBufferSize(8);
     setFormat(surfaceFormat);
     setColor(Qt::transparent);
-    connect(this, &QWindow::visibleChanged, this, &FramelessWindow::visibleChanged);
+    m_visibleForwarding = connect(this, &QWindow::visibleChanged, this, &FramelessWindow::visibleChanged);
+}
+
+FramelessWindow::~FramelessWindow()
+{
+    // QWindow's destructor hides the window, and this part of it is gone by then.
+    disconnect(m_visibleForwarding);
 }
 
 void FramelessWindow::setVisible(bool visible)

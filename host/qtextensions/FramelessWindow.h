@@ -49,6 +49,7 @@ public:
     Q_ENUM(MaskPolicy)
 
     explicit FramelessWindow(QWindow* parent = nullptr);
+    ~FramelessWindow() override;
 
     // Hides QWindow::setVisible for QML: while a declaration is being applied, the request waits.
     void setVisible(bool visible);
@@ -93,6 +94,7 @@ private:
 
     // False only between the start and the end of a QML declaration.
     bool m_complete = true;
+    QMetaObject::Connection m_visibleForwarding;
     bool m_visibleRequested = false;
     bool m_grabsPointer = false;
     bool m_translucent = true;
