@@ -1,6 +1,13 @@
 if(QTC_SANITIZE)
     add_compile_options(-fsanitize=address,undefined -fno-omit-frame-pointer -fno-sanitize-recover=undefined)
     add_link_options(-fsanitize=address,undefined)
+    # Programs that are not built here (Qt's tools, an outside host) but load the instrumented
+    # libraries need the sanitizers' runtimes in the process before anything else.
+    execute_process(COMMAND ${CMAKE_CXX_COMPILER} -print-file-name=libasan.so
+        OUTPUT_VARIABLE asan_runtime OUTPUT_STRIP_TRAILING_WHITESPACE)
+    execute_process(COMMAND ${CMAKE_CXX_COMPILER} -print-file-name=libubsan.so
+        OUTPUT_VARIABLE ubsan_runtime OUTPUT_STRIP_TRAILING_WHITESPACE)
+    set(QTC_SANITIZER_PRELOAD "${asan_runtime}:${ubsan_runtime}")
 endif()
 
 # Coverage instrumentation for libFuzzer in every library a fuzz target links; the targets
@@ -12,6 +19,13 @@ if(QTC_FUZZ)
     add_compile_options(-fsanitize=fuzzer-no-link,address,undefined -fno-omit-frame-pointer
                         -fno-sanitize-recover=undefined)
     add_link_options(-fsanitize=address,undefined)
+    # Programs that are not built here (Qt's tools, an outside host) but load the instrumented
+    # libraries need the sanitizers' runtimes in the process before anything else.
+    execute_process(COMMAND ${CMAKE_CXX_COMPILER} -print-file-name=libasan.so
+        OUTPUT_VARIABLE asan_runtime OUTPUT_STRIP_TRAILING_WHITESPACE)
+    execute_process(COMMAND ${CMAKE_CXX_COMPILER} -print-file-name=libubsan.so
+        OUTPUT_VARIABLE ubsan_runtime OUTPUT_STRIP_TRAILING_WHITESPACE)
+    set(QTC_SANITIZER_PRELOAD "${asan_runtime}:${ubsan_runtime}")
 endif()
 
 if(QTC_TSAN)
