@@ -1,6 +1,8 @@
 #include "TableInput.h"
 
 #include "TablesLogging.h"
+#include "framework/ServiceCatalog.h"
+#include "properties/StructuralModel.h"
 #include "tables/TableDataCatalog.h"
 
 #include <algorithm>
@@ -15,6 +17,8 @@ TableInput::TableInput(QQuickItem* parent)
     TableContentModel& model = *contentModel();
     connect(&model, &TableContentModel::updateDataRequest, this, &TableInput::OnUpdateDataRequest);
     connect(&model, &TableContentModel::executeActionRequest, this, &TableInput::OnExecuteActionRequest);
+    connect(model.selectionModel(), &TableSelectionModel::selectionChanged, this,
+            &TableInput::ShareSelection);
     model.setAllowEdit(true);
     model.setAllowAddNew(true);
     model.setAllowDelete(true);
@@ -103,6 +107,33 @@ void TableInput::OnExecuteActionRequest(int row, int column)
     if (!m_input || column < 0 || column >= static_cast<int>(columns.size()))
         return;
     m_input->ExecuteAction(row, columns[static_cast<std::size_t>(column)].id.toStdWString());
+}
+
+void TableInput::ShareSelection()
+{
+    if (!m_input || IsRefilling())
+        return;
+    const auto catalog = Kernel::Framework::ServiceCatalog::Global();
+    const auto structuralModel = catalog ? catalog->Get<Kernel::Framework::StructuralModel>() : nullptr;
+    if (!structuralModel)
+        return;
+    const TableContentModel& model = *contentModel();
+    const TableSelectionModel& selection = *model.selectionModel();
+    const QItemSelectionRange envelope = selection.getEnvelope();
+    std::vector<Kernel::Model::ObjectId> ids;
+    if (envelope.isValid()) {
+        for (int row = envelope.top(); row <= std::min(envelope.bottom(), model.rowCountSubmitted() - 1);
+             ++row) {
+            bool selected = selection.isRowSelected(row);
+            for (int column = envelope.left(); !selected && column <= envelope.right(); ++column)
+                selected = selection.isSelected(model.index(row, column));
+            if (selected && m_input->GetObjectAt(row) != 0)
+                ids.push_back(m_input->GetObjectAt(row));
+        }
+    }
+    // An empty selection of the table leaves the host's as it is: the user may be on the new row.
+    if (!ids.empty() && ids != structuralModel->Selection())
+        structuralModel->Select(ids);
 }
 
 bool TableInput::removeRows(const QList<int>& rows)

@@ -19,7 +19,7 @@ namespace Orvo::UI::UIComponents {
 // hands back to the host, so that typed cells, pastes, multi-edits, new rows and cell actions are
 // each one step of the host's undo stack. It refills whenever the host says the table changed,
 // which is how an undo or an edit made elsewhere (the properties panel) shows here.
-class TableInput : public TablePanel
+class TableInput : public Orvo::UI::UIComponents::TablePanel
 {
     Q_OBJECT
     QML_NAMED_ELEMENT(TableInput_Cpp)
@@ -52,6 +52,8 @@ private:
     std::vector<std::shared_ptr<Kernel::Tables::ITableInputTableData>> InputTables() const;
     void OnUpdateDataRequest(const TableContentUpdate& update);
     void OnExecuteActionRequest(int row, int column);
+    // The objects of the selected rows become the host's selection (the properties panel shows them).
+    void ShareSelection();
     void Report(const Kernel::Tables::TableUpdateResult& result);
     void SetMessage(const QString& message);
 

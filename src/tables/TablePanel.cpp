@@ -7,6 +7,7 @@
 #include "tables/TableDataCatalog.h"
 #include "tables/TableDataEvents.h"
 
+#include <QScopedValueRollback>
 #include <algorithm>
 
 namespace Orvo::UI::UIComponents {
@@ -145,9 +146,15 @@ void TablePanel::FollowSelectedTab()
     ShowTable(m_tabs.index(selected).data(TableTabsModel::IdRole).toString());
 }
 
-void TablePanel::FollowOpenedTab(const QString&, bool opened)
+void TablePanel::FollowOpenedTab(const QString& id, bool opened)
 {
-    if (opened || m_switchingWorkstation || m_tabs.selectedIndex() >= 0)
+    if (m_switchingWorkstation)
+        return;
+    if (opened) {
+        m_tabs.setSelectedIndex(m_tabs.FindIndexById(id)); // a table opened is a table to see
+        return;
+    }
+    if (m_tabs.selectedIndex() >= 0)
         return;
     const int first = m_tabs.GetIndexOfFirstEnabled();
     if (first >= 0)
@@ -232,6 +239,7 @@ void TablePanel::ShowTable(const QString& id)
 {
     if (id == m_tableId && (m_table || id.isEmpty()))
         return;
+    const QScopedValueRollback refilling(m_refilling, true);
     RememberLayout();
     // Forgotten first, so that taking the old columns down is not taken for the user's layout.
     m_tableId.clear();
@@ -296,6 +304,7 @@ void TablePanel::Refill()
 {
     if (!m_table)
         return;
+    const QScopedValueRollback refilling(m_refilling, true);
     // The sort order is the layout's: the user clicked a title. The host is asked only when it
     // changed, as ordering a big table anew is not free.
     const auto& columns = m_model.GetColumns();

@@ -28,7 +28,7 @@ namespace Orvo::UI::UIComponents {
 // table fed into the content model as the view scrolls, and the user's layout of each table kept
 // in the panel's configuration. The host's tables are read through their table-data interface;
 // the panels differ in which workstations they offer and in what they do with edits.
-class TablePanel : public QtExtensions::UIComponent
+class TablePanel : public Orvo::UI::QtExtensions::UIComponent
 {
     Q_OBJECT
     QML_ANONYMOUS
@@ -89,6 +89,8 @@ protected:
     // Lists the workstations the panel offers and shows the first; derived constructors call it.
     void FillWorkstations();
     std::shared_ptr<Kernel::Tables::TableDataCatalog> Catalog() const;
+    // True while the rows are read anew or another table comes: selection changes are not the user's.
+    bool IsRefilling() const { return m_refilling; }
     const std::shared_ptr<Kernel::Tables::ITableData>& Table() const { return m_table; }
     const ColumnDataAdapter* FindAdapter(const QString& columnId) const;
 
@@ -112,6 +114,7 @@ private:
     QString m_tableId;
     QString m_workstationId; // the workstation whose tabs the tabs model holds
     bool m_switchingWorkstation = false;
+    bool m_refilling = false;
     std::shared_ptr<Kernel::Tables::ITableData> m_table;
     std::vector<std::unique_ptr<ColumnDataAdapter>> m_adapters;
     Kernel::Framework::EventConnection m_changedConnection;

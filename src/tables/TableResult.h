@@ -10,7 +10,7 @@ namespace Orvo::UI::UIComponents {
 // shown results table, read from the results database a run of rows at a time as the view
 // scrolls (a table of millions of rows costs what is on screen). Read-only; it refills when an
 // analysis brings new results.
-class TableResult : public TablePanel
+class TableResult : public Orvo::UI::UIComponents::TablePanel
 {
     Q_OBJECT
     QML_NAMED_ELEMENT(TableResult_Cpp)
