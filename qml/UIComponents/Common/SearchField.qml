@@ -1,0 +1,53 @@
+import QtQuick
+import Qml.QtComponents
+import Qml.QtBasicComponents
+import BasicComponents.Constants
+
+// The search field of the component library's lists: a magnifier, a hint while empty, a button
+// that clears it, and Escape that clears it too (and, when it is already empty, lets Escape go on
+// to close whatever holds the field).
+BasicTextField {
+    id: field
+
+    placeholderText: Strings.text("UI_COMMON_SEARCH")
+    leftPadding: 24
+    rightPadding: clearButton.visible ? 24 : 6
+
+    Keys.onEscapePressed: event => {
+        event.accepted = field.text.length > 0
+        field.clear()
+    }
+
+    Text {
+        anchors.left: parent.left
+        anchors.leftMargin: 7
+        anchors.verticalCenter: parent.verticalCenter
+        text: "\u2315"
+        color: BasicConstants.colors.textSecondary
+        font.pixelSize: BasicConstants.fonts.large
+    }
+
+    Text {
+        id: clearButton
+        objectName: "clearSearch"
+        anchors.right: parent.right
+        anchors.rightMargin: 7
+        anchors.verticalCenter: parent.verticalCenter
+        visible: field.text.length > 0
+        text: "\u00d7"
+        color: clearArea.containsMouse ? BasicConstants.colors.text : BasicConstants.colors.textSecondary
+        font.pixelSize: BasicConstants.fonts.large
+
+        MouseArea {
+            id: clearArea
+            anchors.fill: parent
+            anchors.margins: -4
+            hoverEnabled: true
+            cursorShape: Qt.ArrowCursor
+            onClicked: {
+                field.clear()
+                field.forceActiveFocus()
+            }
+        }
+    }
+}
