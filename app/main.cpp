@@ -1,4 +1,5 @@
 #include "CommandActivity.h"
+#include "ModelingCommands.h"
 #include "DemoOptions.h"
 #include "MarkingMenuGesture.h"
 #include "SampleObjectsModel.h"
@@ -99,6 +100,8 @@ int main(int argc, char** argv)
 
     // Declared before the engine, which must be gone before the objects its bindings read.
     CommandActivity commandActivity;
+    ModelingCommands modelingCommands;
+    qmlRegisterSingletonInstance("Demo", 1, 0, "ModelingCommands", &modelingCommands);
     ViewControls viewControls;
     QQmlApplicationEngine engine;
     engine.addImportPath(FromExecutable(fromBuildTree ? "../qml" : QTC_INSTALLED_QML_DIR));
