@@ -28,11 +28,6 @@ Item {
         kind: "loadCase"
     }
 
-    SimpleComboBoxProxyModel {
-        id: kindNames
-        items: sectionsModel.kindNames
-    }
-
     SampleObjectsModel {
         id: chosenKindModel
         kind: sectionsModel.kinds[Math.max(0, kindCombo.currentIndex)]
@@ -108,7 +103,9 @@ Item {
                     id: kindCombo
                     objectName: "kindCombo"
                     Layout.fillWidth: true
-                    model: kindNames
+                    model: SimpleComboBoxProxyModel {
+                        items: sectionsModel.kindNames
+                    }
                     currentIndex: 3
                 }
 
@@ -117,7 +114,7 @@ Item {
                     objectName: "objectCombo"
                     Layout.fillWidth: true
                     model: chosenKindModel
-                    textRole: "typeName"
+                    textRole: "name"
                 }
 
                 BasicLabel { text: Strings.text("UI_APP_COMMANDS_LOAD_CASES") }

@@ -19,8 +19,8 @@ class FilterItemsProxyModel : public QSortFilterProxyModel
     QML_NAMED_ELEMENT(FilterItemsProxyModel)
     Q_PROPERTY(QString textRole READ textRole WRITE setTextRole NOTIFY textRoleChanged)
     Q_PROPERTY(QString searchText READ searchText WRITE setSearchText NOTIFY searchTextChanged)
-    Q_PROPERTY(SelectionModel* selectionModel READ selectionModel WRITE setSelectionModel NOTIFY
-                   selectionModelChanged)
+    Q_PROPERTY(Orvo::UI::UIComponents::SelectionModel* selectionModel READ selectionModel WRITE
+                   setSelectionModel NOTIFY selectionModelChanged)
     // Shows only the selected items (a "show selected" switch).
     Q_PROPERTY(bool onlySelected READ onlySelected WRITE setOnlySelected NOTIFY onlySelectedChanged)
     Q_PROPERTY(int count READ count NOTIFY countChanged)

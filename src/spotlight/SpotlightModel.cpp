@@ -272,8 +272,8 @@ void SpotlightModel::AddCommands(std::vector<Entry>& entries) const
             entry.searchTexts << synonym.trimmed();
         if (!entry.shortcut.isEmpty())
             entry.searchTexts << entry.shortcut;
-        entry.detail = KnownText(QStringLiteral("UI_COMMAND_GROUP_")
-                                 + QString::fromStdWString(command.group).toUpper());
+        entry.detail = KnownText(
+            QStringLiteral("UI_COMMAND_GROUP_%1").arg(QString::fromStdWString(command.group).toUpper()));
         entries.push_back(entry);
     }
 }

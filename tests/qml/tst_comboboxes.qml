@@ -93,9 +93,9 @@ TestCase {
     function test_selectAllActsOnWhatTheSearchFound() {
         const combo = createTemporaryObject(multiComponent, testCase)
         mouseClick(combo)
-        const selectAll = findNamed(testCase, "selectAll")
+        tryVerify(() => combo.popup.opened)
+        const selectAll = findNamed(combo.popup.contentItem, "selectAll")
         verify(selectAll)
-        tryVerify(() => selectAll.visible)
         type("ipe")
         tryCompare(selectAll, "checkState", Qt.Unchecked)
         mouseClick(selectAll)

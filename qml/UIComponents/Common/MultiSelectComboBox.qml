@@ -18,6 +18,7 @@ Item {
     // At most this many chosen items are named in the closed box.
     property int namedItems: 2
     readonly property SelectionModel selection: selectionModel
+    readonly property alias popup: popup
     readonly property alias selectedKeys: selectionModel.selectedKeys
     readonly property string summary: {
         if (selectionModel.count === 0)
@@ -25,8 +26,16 @@ Item {
         if (selectionModel.checkState === Qt.Checked)
             return Strings.text("UI_COMMON_ALL_SELECTED")
         if (selectionModel.count <= control.namedItems)
-            return selectionModel.selectedTexts(control.textRole).join(", ")
+            return control.namedSummary()
         return Strings.text("UI_COMMON_N_SELECTED").arg(selectionModel.count)
+    }
+
+    function namedSummary() {
+        const texts = selectionModel.selectedTexts(control.textRole)
+        let summary = ""
+        for (let i = 0; i < texts.length; ++i)
+            summary += (i > 0 ? ", " : "") + texts[i]
+        return summary
     }
 
     implicitWidth: 200
@@ -34,13 +43,13 @@ Item {
 
     SelectionModel {
         id: selectionModel
-        model: control.model as QAbstractItemModel
+        model: control.model
         keyRole: control.keyRole
     }
 
     FilterItemsProxyModel {
         id: items
-        sourceModel: control.model as QAbstractItemModel
+        sourceModel: control.model
         textRole: control.textRole
         selectionModel: selectionModel
         searchText: search.text
@@ -101,12 +110,7 @@ Item {
             SearchField {
                 id: search
                 width: parent.width
-                Keys.onEscapePressed: event => {
-                    if (search.text.length > 0)
-                        search.clear()
-                    else
-                        popup.close()
-                }
+                onEscapedEmpty: popup.close()
             }
 
             BasicCheckBox {
@@ -138,11 +142,13 @@ Item {
                     required property int index
                     required property string itemText
                     required property bool selected
+                    // Written back: the list's "selected" role is the selection model's.
+                    required property var model
 
                     width: ListView.view.width
                     text: itemBox.itemText
                     checked: itemBox.selected
-                    onToggled: items.toggle(itemBox.index)
+                    onToggled: itemBox.model.selected = itemBox.checked
                 }
             }
 

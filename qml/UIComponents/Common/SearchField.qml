@@ -4,18 +4,26 @@ import Qml.QtBasicComponents
 import BasicComponents.Constants
 
 // The search field of the component library's lists: a magnifier, a hint while empty, a button
-// that clears it, and Escape that clears it too (and, when it is already empty, lets Escape go on
-// to close whatever holds the field).
+// that clears it, and Escape that clears it too; Escape in the empty field is left to whatever
+// holds the field (it closes the list) through escapedEmpty.
 BasicTextField {
     id: field
+
+    // Escape was pressed while the field was empty.
+    signal escapedEmpty()
 
     placeholderText: Strings.text("UI_COMMON_SEARCH")
     leftPadding: 24
     rightPadding: clearButton.visible ? 24 : 6
 
     Keys.onEscapePressed: event => {
-        event.accepted = field.text.length > 0
-        field.clear()
+        if (field.text.length > 0) {
+            field.clear()
+            event.accepted = true
+        } else {
+            event.accepted = false
+            field.escapedEmpty()
+        }
     }
 
     Text {

@@ -27,7 +27,7 @@ BasicComboBox {
 
     ComboBoxProxyModel {
         id: proxy
-        sourceModel: control.model as QAbstractItemModel
+        sourceModel: control.model
         textRole: control.textRole
         searchText: search.text
     }
@@ -60,12 +60,7 @@ BasicComboBox {
                 Keys.onReturnPressed: control.choose(Math.max(list.currentIndex, 0))
                 Keys.onEnterPressed: control.choose(Math.max(list.currentIndex, 0))
                 onTextChanged: list.currentIndex = 0
-                Keys.onEscapePressed: event => {
-                    if (search.text.length > 0)
-                        search.clear()
-                    else
-                        control.popup.close()
-                }
+                onEscapedEmpty: control.popup.close()
             }
 
             ListView {
@@ -85,8 +80,7 @@ BasicComboBox {
 
                     width: ListView.view.width
                     height: BasicConstants.sizes.rowHeight
-                    color: row.ListView.isCurrentItem ? BasicConstants.colors.selection
-                                                      : rowArea.containsMouse ? BasicConstants.colors.hover : "transparent"
+                    color: row.ListView.isCurrentItem ? BasicConstants.colors.selection : "transparent"
 
                     BasicLabel {
                         anchors.fill: parent
@@ -95,12 +89,23 @@ BasicComboBox {
                         elide: Text.ElideRight
                         text: row.itemText
                     }
+                }
 
-                    MouseArea {
-                        id: rowArea
-                        anchors.fill: parent
-                        hoverEnabled: true
-                        onClicked: control.choose(row.index)
+                // The pointer over the whole list (in the list's content, so in content
+                // coordinates): it highlights the row under it, a click takes it.
+                MouseArea {
+                    anchors.fill: parent
+                    z: 1
+                    hoverEnabled: true
+                    onPositionChanged: mouse => {
+                        const row = list.indexAt(mouse.x, mouse.y)
+                        if (row >= 0)
+                            list.currentIndex = row
+                    }
+                    onClicked: mouse => {
+                        const row = list.indexAt(mouse.x, mouse.y)
+                        if (row >= 0)
+                            control.choose(row)
                     }
                 }
             }

@@ -75,10 +75,8 @@ Spotlight_Cpp {
                 Keys.onUpPressed: results.decrementCurrentIndex()
                 Keys.onReturnPressed: spotlight.choose(results.currentIndex)
                 Keys.onEnterPressed: spotlight.choose(results.currentIndex)
-                Keys.onEscapePressed: event => {
-                    if (field.text.length > 0)
-                        field.clear()
-                    else if (!spotlight.stayOpen)
+                onEscapedEmpty: {
+                    if (!spotlight.stayOpen)
                         spotlight.close()
                 }
             }
