@@ -15,7 +15,7 @@ TestCase {
             "ComboBoxProxyModel", "FilterItemsProxyModel", "SelectionModel", "SimpleComboBoxProxyModel",
             "CommandMenuHelper",
             "IntegerValidator", "RealValidator", "InlineCalculator", "IllustrationData",
-            "TableInput_Cpp", "TableWorkstationsModel", "TableTabsModel",
+            "TableResult_Cpp", "TableInput_Cpp", "TableWorkstationsModel", "TableTabsModel",
             "TableColumnsModel", "TableContentModel", "MultiEditAction", "MultiEditActionSolver",
             "MultiEditSearchResult", "TableContentFilterModel", "TableSelectionModel",
             "TableSelectionFilterModel", "FilterBarModel",
