@@ -15,10 +15,10 @@ import Demo
 Item {
     id: workspace
 
-    // The application's bar of the model view (viewControls, made by the application) follows
+    // The application's bar of the model view (made by the application) follows
     // this view.
     Binding {
-        target: viewControls
+        target: DemoShell.viewControls
         property: "viewportId"
         value: graphicView.viewport.viewportId
     }
@@ -38,7 +38,7 @@ Item {
 
                 ViewToolbar {
                     Layout.fillWidth: true
-                    controls: viewControls
+                    controls: DemoShell.viewControls
                 }
 
                 // What the view does not take (the secondary button) falls through to the area,
