@@ -68,6 +68,11 @@ Item {
                     Layout.fillWidth: true
                     font.family: BasicConstants.fonts.family
                     font.pixelSize: BasicConstants.fonts.normal
+                    // The shown tab has the panel's colour, the others the colour of panel headers.
+                    palette.window: BasicConstants.colors.panel
+                    palette.windowText: BasicConstants.colors.text
+                    palette.dark: BasicConstants.colors.panelHeader
+                    palette.brightText: BasicConstants.colors.textSecondary
                     // The tables are made when first shown: their 100,000 generated rows are
                     // not needed before.
                     onCurrentIndexChanged: {
