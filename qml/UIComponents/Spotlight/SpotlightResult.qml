@@ -17,6 +17,10 @@ SpotlightResult_UI {
     signal chosen(int index)
 
     current: row.ListView.isCurrentItem
+    titleText: row.title
+    detailText: row.detail
+    shortcutSequence: row.shortcut
+    dimmed: !row.available
     iconSource: row.icon
     hint: row.kind === SpotlightModel.Calculation ? Strings.text("UI_SPOTLIGHT_ENTER_COPIES")
         : row.kind === SpotlightModel.Coordinates ? Strings.text("UI_SPOTLIGHT_ENTER_OFFERS") : ""

@@ -5,13 +5,13 @@ import UIComponents.Utilities
 // One result of the spotlight: icon, title, what it is or where it lives, and its shortcut.
 Rectangle {
     id: result
-    property alias title: titleLabel.text
-    property alias detail: detailLabel.text
+    property alias titleText: titleLabel.text
+    property alias detailText: detailLabel.text
     property alias iconSource: icon.source
-    property alias shortcut: shortcutText.sequence
+    property alias shortcutSequence: shortcutText.sequence
     property alias hint: hintLabel.text
     property bool current: false
-    property bool available: true
+    property bool dimmed: false
 
     height: 30
     color: result.current ? BasicConstants.colors.selection : "transparent"
@@ -22,7 +22,7 @@ Rectangle {
         anchors.left: parent.left
         anchors.leftMargin: 8
         anchors.verticalCenter: parent.verticalCenter
-        opacity: result.available ? 1 : 0.4
+        opacity: result.dimmed ? 0.4 : 1
         visible: icon.source != ""
     }
 
@@ -35,7 +35,7 @@ Rectangle {
         elide: Text.ElideRight
         font.family: BasicConstants.fonts.family
         font.pixelSize: BasicConstants.fonts.normal
-        color: result.available ? BasicConstants.colors.text : BasicConstants.colors.textDisabled
+        color: result.dimmed ? BasicConstants.colors.textDisabled : BasicConstants.colors.text
     }
 
     Text {
