@@ -972,8 +972,20 @@
         <translation>100,000 generated members</translation>
     </message>
     <message id="UI_DEMO_TABLES_MODEL_HINT">
-        <source>A table of the structural model: every edit, paste, multi-edit, new row and deletion is one step of the undo history (Ctrl+Z, Ctrl+Y), and the model view, the properties panel and this table follow each step.</source>
-        <translation>A table of the structural model: every edit, paste, multi-edit, new row and deletion is one step of the undo history (Ctrl+Z, Ctrl+Y), and the model view, the properties panel and this table follow each step.</translation>
+        <source>The tables of the structural model, one per kind of object, in tabs by workstation (the model, its loads): open more with the + button, drag tabs to reorder them, Ctrl+PageUp and Ctrl+PageDown move between them. Every edit, paste, multi-edit and new row is one step of the undo history (Ctrl+Z, Ctrl+Y); the selected rows show in the properties panel, and an edit there shows here.</source>
+        <translation>The tables of the structural model, one per kind of object, in tabs by workstation (the model, its loads): open more with the + button, drag tabs to reorder them, Ctrl+PageUp and Ctrl+PageDown move between them. Every edit, paste, multi-edit and new row is one step of the undo history (Ctrl+Z, Ctrl+Y); the selected rows show in the properties panel, and an edit there shows here.</translation>
+    </message>
+    <message id="UI_DEMO_TABLES_INPUT">
+        <source>Model input tables</source>
+        <translation>Model input tables</translation>
+    </message>
+    <message id="UI_DEMO_TABLES_RESULTS">
+        <source>Analysis results</source>
+        <translation>Analysis results</translation>
+    </message>
+    <message id="UI_DEMO_TABLES_RESULTS_HINT">
+        <source>The results of the last analysis (run it on the Analysis page), read from the results database a hundred rows at a time as you scroll: filters and sorting work on millions of rows. Open more tables with the + button, drag tabs to reorder them, Ctrl+PageUp and Ctrl+PageDown move between them.</source>
+        <translation>The results of the last analysis (run it on the Analysis page), read from the results database a hundred rows at a time as you scroll: filters and sorting work on millions of rows. Open more tables with the + button, drag tabs to reorder them, Ctrl+PageUp and Ctrl+PageDown move between them.</translation>
     </message>
     <message id="UI_DEMO_TABLES_ROWS">
         <source>%1 of %2 rows shown</source>
@@ -1038,6 +1050,22 @@
     <message id="UI_TABLE_COLUMNS">
         <source>Columns…</source>
         <translation>Columns…</translation>
+    </message>
+    <message id="UI_TABLE_TAB_OPEN">
+        <source>Open a table</source>
+        <translation>Open a table</translation>
+    </message>
+    <message id="UI_TABLE_TAB_ALERTED">
+        <source>Some values of this table break a rule of their property</source>
+        <translation>Some values of this table break a rule of their property</translation>
+    </message>
+    <message id="UI_TABLE_NO_TAB_OPEN">
+        <source>No table is open: open one with the + button</source>
+        <translation>No table is open: open one with the + button</translation>
+    </message>
+    <message id="UI_TABLE_RESULTS_EMPTY">
+        <source>No results yet: run the analysis to fill this table</source>
+        <translation>No results yet: run the analysis to fill this table</translation>
     </message>
     <message id="UI_TABLE_SHOW_ALL_COLUMNS">
         <source>Show all columns</source>

@@ -7,6 +7,7 @@ import BasicComponents.Constants
 import UIComponents.Constants
 import Orvo.QtExtensions
 import UIComponents.MarkingMenu
+import Demo
 
 ApplicationWindow {
     id: window
@@ -88,9 +89,10 @@ ApplicationWindow {
             Layout.fillHeight: true
             Layout.preferredWidth: 190
             model: window.pages
-            currentIndex: window.pageIndex(initialPage)
+            currentIndex: window.pageIndex(DemoShell.initialPage)
             clip: true
             delegate: Rectangle {
+                id: pageEntry
                 required property var modelData
                 required property int index
                 width: ListView.view.width
@@ -100,7 +102,7 @@ ApplicationWindow {
                 Text {
                     anchors { fill: parent; leftMargin: 14 }
                     verticalAlignment: Text.AlignVCenter
-                    text: Strings.text(modelData.lcid)
+                    text: Strings.text(pageEntry.modelData.lcid)
                     font.family: BasicConstants.fonts.family
                     font.pixelSize: BasicConstants.fonts.normal
                     color: BasicConstants.colors.text
@@ -109,7 +111,7 @@ ApplicationWindow {
                     id: mouse
                     anchors.fill: parent
                     hoverEnabled: true
-                    onClicked: pageList.currentIndex = index
+                    onClicked: pageEntry.ListView.view.currentIndex = pageEntry.index
                 }
             }
         }
@@ -136,8 +138,9 @@ ApplicationWindow {
         color: BasicConstants.colors.panelHeader
         Text {
             anchors { left: parent.left; leftMargin: 10; verticalCenter: parent.verticalCenter }
-            text: commandActivity.runCount > 0
-                  ? Strings.text("UI_APP_STATUS_LAST_COMMAND").arg(commandActivity.lastCommandName).arg(commandActivity.lastOrigin)
+            text: DemoShell.commandActivity.runCount > 0
+                  ? Strings.text("UI_APP_STATUS_LAST_COMMAND").arg(DemoShell.commandActivity.lastCommandName)
+                                                             .arg(DemoShell.commandActivity.lastOrigin)
                   : Strings.text("UI_APP_STATUS_READY")
             font.family: BasicConstants.fonts.family
             font.pixelSize: BasicConstants.fonts.small
@@ -148,7 +151,7 @@ ApplicationWindow {
             objectName: "viewStatus"
             anchors { right: parent.right; rightMargin: 10; verticalCenter: parent.verticalCenter }
             visible: window.pages[pageStack.currentIndex].name === "model"
-            text: viewControls.pointerText + "    " + viewControls.scaleText
+            text: DemoShell.viewControls.pointerText + "    " + DemoShell.viewControls.scaleText
             font.family: BasicConstants.fonts.family
             font.pixelSize: BasicConstants.fonts.small
             color: BasicConstants.colors.textSecondary

@@ -22,6 +22,7 @@
 #include "tables/TableContentFilterModel.h"
 #include "tables/TableContentModel.h"
 #include "tables/TableInput.h"
+#include "tables/TableResult.h"
 #include "tables/TableSelectionFilterModel.h"
 #include "tables/TableSelectionModel.h"
 #include "tables/TableTabsModel.h"
@@ -64,6 +65,7 @@ void RegisterQtComponentsTypes(const char* uri)
     qmlRegisterType<RealValidator>(uri, major, minor, "RealValidator");
     qmlRegisterType<InlineCalculator>(uri, major, minor, "InlineCalculator");
     qmlRegisterType<IllustrationData>(uri, major, minor, "IllustrationData");
+    qmlRegisterType<TableResult>(uri, major, minor, "TableResult_Cpp");
     qmlRegisterType<TableInput>(uri, major, minor, "TableInput_Cpp");
     qmlRegisterType<TableWorkstationsModel>(uri, major, minor, "TableWorkstationsModel");
     qmlRegisterType<TableTabsModel>(uri, major, minor, "TableTabsModel");

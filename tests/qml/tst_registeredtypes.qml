@@ -13,7 +13,7 @@ TestCase {
             "HotkeyHandler_Cpp", "PropertiesPanelUserConfiguration", "ActionsModel", "EntityModel",
             "PropertiesModel", "PropertiesPanel_Cpp", "PropertiesProxyModel", "CommandMenuHelper",
             "IntegerValidator", "RealValidator", "InlineCalculator", "IllustrationData",
-            "TableInput_Cpp", "TableWorkstationsModel", "TableTabsModel",
+            "TableResult_Cpp", "TableInput_Cpp", "TableWorkstationsModel", "TableTabsModel",
             "TableColumnsModel", "TableContentModel", "MultiEditAction", "MultiEditActionSolver",
             "MultiEditSearchResult", "TableContentFilterModel", "TableSelectionModel",
             "TableSelectionFilterModel", "FilterBarModel",
