@@ -1,4 +1,5 @@
 #include "CommandActivity.h"
+#include "ModelingCommands.h"
 #include "DemoOptions.h"
 #include "DemoShell.h"
 #include "MarkingMenuGesture.h"
@@ -100,6 +101,8 @@ int main(int argc, char** argv)
 
     // Declared before the engine, which must be gone before the objects its bindings read.
     CommandActivity commandActivity;
+    ModelingCommands modelingCommands;
+    qmlRegisterSingletonInstance("Demo", 1, 0, "ModelingCommands", &modelingCommands);
     ViewControls viewControls;
     DemoShell shell(options.page, &commandActivity, &viewControls,
                     services->Get<Orvo::Kernel::Analysis::AnalysisService>().get());

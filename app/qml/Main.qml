@@ -7,6 +7,7 @@ import BasicComponents.Constants
 import UIComponents.Constants
 import Orvo.QtExtensions
 import UIComponents.MarkingMenu
+import UIComponents.Spotlight
 import Demo
 
 ApplicationWindow {
@@ -26,7 +27,8 @@ ApplicationWindow {
         { name: "properties", lcid: "UI_APP_PAGE_PROPERTIES", source: "PropertiesPage.qml" },
         { name: "tables", lcid: "UI_APP_PAGE_TABLES", source: "TablesPage.qml" },
         { name: "analysis", lcid: "UI_APP_PAGE_ANALYSIS", source: "AnalysisPage.qml" },
-        { name: "shortcuts", lcid: "UI_APP_PAGE_SHORTCUTS", source: "ShortcutsPage.qml" }
+        { name: "shortcuts", lcid: "UI_APP_PAGE_SHORTCUTS", source: "ShortcutsPage.qml" },
+        { name: "commands", lcid: "UI_APP_PAGE_COMMANDS", source: "CommandsPage.qml" }
     ]
 
     function pageIndex(name) {
@@ -46,6 +48,16 @@ ApplicationWindow {
     // The application's marking menu: it opens over whichever view asks for it.
     MarkingMenu {
         objectName: "markingMenu"
+    }
+
+    // The spotlight search over every page (Ctrl+Space).
+    Spotlight {
+        objectName: "spotlight"
+        parent: window.contentItem
+        z: 100
+        width: Math.min(620, window.width - 40)
+        anchors.horizontalCenter: parent.horizontalCenter
+        y: 60
     }
 
     header: Rectangle {

@@ -10,8 +10,10 @@ TestCase {
 
     function test_create_data() {
         return [
-            "HotkeyHandler_Cpp", "PropertiesPanelUserConfiguration", "ActionsModel", "EntityModel",
-            "PropertiesModel", "PropertiesPanel_Cpp", "PropertiesProxyModel", "CommandMenuHelper",
+            "Spotlight_Cpp", "SpotlightModel", "SpotlightProxyModel", "HotkeyHandler_Cpp", "PropertiesPanelUserConfiguration", "ActionsModel", "EntityModel",
+            "PropertiesModel", "PropertiesPanel_Cpp", "PropertiesProxyModel",
+            "ComboBoxProxyModel", "FilterItemsProxyModel", "SelectionModel", "SimpleComboBoxProxyModel",
+            "CommandMenuHelper",
             "IntegerValidator", "RealValidator", "InlineCalculator", "IllustrationData",
             "TableResult_Cpp", "TableInput_Cpp", "TableWorkstationsModel", "TableTabsModel",
             "TableColumnsModel", "TableContentModel", "MultiEditAction", "MultiEditActionSolver",
