@@ -2211,5 +2211,105 @@
         <source>Values</source>
         <translation>Values</translation>
     </message>
+    <message id="UI_UNITS_LENGTH">
+        <source>Length</source>
+        <translation>Length</translation>
+    </message>
+    <message id="UI_UNITS_FORCE">
+        <source>Force</source>
+        <translation>Force</translation>
+    </message>
+    <message id="UI_UNITS_MOMENT">
+        <source>Moment</source>
+        <translation>Moment</translation>
+    </message>
+    <message id="UI_UNITS_STRESS">
+        <source>Stress</source>
+        <translation>Stress</translation>
+    </message>
+    <message id="UI_STATUSBAR_UNITS">
+        <source>Units</source>
+        <translation>Units</translation>
+    </message>
+    <message id="UI_STATUSBAR_UNITS_TOOLTIP">
+        <source>Units of lengths, forces, moments and stresses in every field and table</source>
+        <translation>Units of lengths, forces, moments and stresses in every field and table</translation>
+    </message>
+    <message id="UI_STATUSBAR_SCALE">
+        <source>1:%1</source>
+        <translation>1:%1</translation>
+    </message>
+    <message id="UI_STATUSBAR_NO_SCALE">
+        <source>No view</source>
+        <translation>No view</translation>
+    </message>
+    <message id="UI_STATUSBAR_PIXEL">
+        <source>1 px = %1 %2</source>
+        <translation>1 px = %1 %2</translation>
+    </message>
+    <message id="UI_STATUSBAR_POINTER_NONE">
+        <source>Pointer off the model</source>
+        <translation>Pointer off the model</translation>
+    </message>
+    <message id="UI_STATUSBAR_WORK_PLANE">
+        <source>Level %1 %2</source>
+        <translation>Level %1 %2</translation>
+    </message>
+    <message id="UI_STATUSBAR_LOAD_CASE">
+        <source>Load case %1</source>
+        <translation>Load case %1</translation>
+    </message>
+    <message id="UI_STATUSBAR_WORK_PLANE_TOOLTIP">
+        <source>Work plane new nodes are placed on</source>
+        <translation>Work plane new nodes are placed on</translation>
+    </message>
+    <message id="UI_STATUSBAR_LOAD_CASE_TOOLTIP">
+        <source>Load case new loads belong to and the view shows</source>
+        <translation>Load case new loads belong to and the view shows</translation>
+    </message>
+    <message id="UI_STATUSBAR_NO_LOAD_CASE">
+        <source>No load case</source>
+        <translation>No load case</translation>
+    </message>
+    <message id="UI_STATUSBAR_SNAPS">
+        <source>Snaps</source>
+        <translation>Snaps</translation>
+    </message>
+    <message id="UI_STATUSBAR_CANCEL">
+        <source>Cancel</source>
+        <translation>Cancel</translation>
+    </message>
+    <message id="UI_SNAP_NODES">
+        <source>Node</source>
+        <translation>Node</translation>
+    </message>
+    <message id="UI_SNAP_NODES_DESCRIPTION">
+        <source>The pointer snaps to the nearest node</source>
+        <translation>The pointer snaps to the nearest node</translation>
+    </message>
+    <message id="UI_SNAP_MIDPOINTS">
+        <source>Midpoint</source>
+        <translation>Midpoint</translation>
+    </message>
+    <message id="UI_SNAP_MIDPOINTS_DESCRIPTION">
+        <source>The pointer snaps to the middle of a member</source>
+        <translation>The pointer snaps to the middle of a member</translation>
+    </message>
+    <message id="UI_SNAP_MEMBERS">
+        <source>On member</source>
+        <translation>On member</translation>
+    </message>
+    <message id="UI_SNAP_MEMBERS_DESCRIPTION">
+        <source>The pointer snaps to the nearest point of a member</source>
+        <translation>The pointer snaps to the nearest point of a member</translation>
+    </message>
+    <message id="UI_SNAP_GRID">
+        <source>Grid</source>
+        <translation>Grid</translation>
+    </message>
+    <message id="UI_SNAP_GRID_DESCRIPTION">
+        <source>The pointer snaps to the ground grid, one metre apart</source>
+        <translation>The pointer snaps to the ground grid, one metre apart</translation>
+    </message>
 </context>
 </TS>

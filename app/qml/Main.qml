@@ -145,28 +145,7 @@ ApplicationWindow {
         }
     }
 
-    footer: Rectangle {
-        height: 24
-        color: BasicConstants.colors.panelHeader
-        Text {
-            anchors { left: parent.left; leftMargin: 10; verticalCenter: parent.verticalCenter }
-            text: DemoShell.commandActivity.runCount > 0
-                  ? Strings.text("UI_APP_STATUS_LAST_COMMAND").arg(DemoShell.commandActivity.lastCommandName)
-                                                             .arg(DemoShell.commandActivity.lastOrigin)
-                  : Strings.text("UI_APP_STATUS_READY")
-            font.family: BasicConstants.fonts.family
-            font.pixelSize: BasicConstants.fonts.small
-            color: BasicConstants.colors.textSecondary
-        }
-        // Where the pointer is in the model, and the model view's scale.
-        Text {
-            objectName: "viewStatus"
-            anchors { right: parent.right; rightMargin: 10; verticalCenter: parent.verticalCenter }
-            visible: window.pages[pageStack.currentIndex].name === "model"
-            text: DemoShell.viewControls.pointerText + "    " + DemoShell.viewControls.scaleText
-            font.family: BasicConstants.fonts.family
-            font.pixelSize: BasicConstants.fonts.small
-            color: BasicConstants.colors.textSecondary
-        }
+    footer: ShellStatusBar {
+        objectName: "statusBar"
     }
 }

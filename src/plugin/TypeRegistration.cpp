@@ -2,11 +2,11 @@
 
 #include "StringsQtComponents.h"
 #include "commands/CommandMenuHelper.h"
+#include "commands/HotkeyHandler.h"
 #include "common/ComboBoxProxyModel.h"
 #include "common/FilterItemsProxyModel.h"
 #include "common/SelectionModel.h"
 #include "common/SimpleComboBoxProxyModel.h"
-#include "commands/HotkeyHandler.h"
 #include "markingmenu/MarkingMenu.h"
 #include "markingmenu/MarkingMenuConfig.h"
 #include "markingmenu/MarkingMenuSectionConfig.h"
@@ -21,6 +21,7 @@
 #include "spotlight/Spotlight.h"
 #include "spotlight/SpotlightModel.h"
 #include "spotlight/SpotlightProxyModel.h"
+#include "status/StatusBar.h"
 #include "tables/FilterBarModel.h"
 #include "tables/MultiEditAction.h"
 #include "tables/MultiEditActionSolver.h"
@@ -64,6 +65,13 @@ void RegisterQtComponentsTypes(const char* uri)
     qmlRegisterType<SpotlightModel>(uri, major, minor, "SpotlightModel");
     qmlRegisterType<SpotlightProxyModel>(uri, major, minor, "SpotlightProxyModel");
     qmlRegisterType<HotkeyHandler>(uri, major, minor, "HotkeyHandler_Cpp");
+    qmlRegisterType<UnitsSubDataModel>(uri, major, minor, "UnitsSubDataModel");
+    qmlRegisterType<ScaleSubDataModel>(uri, major, minor, "ScaleSubDataModel");
+    qmlRegisterType<SnappingSubDataModel>(uri, major, minor, "SnappingSubDataModel");
+    qmlRegisterType<CoordinatesSubModel>(uri, major, minor, "CoordinatesSubModel");
+    qmlRegisterType<MasterEntitySubDataModel>(uri, major, minor, "MasterEntitySubDataModel");
+    qmlRegisterType<StatusBarDataModel>(uri, major, minor, "StatusbarData");
+    qmlRegisterType<StatusBar>(uri, major, minor, "StatusBar_Cpp");
     qmlRegisterType<PropertiesPanelUserConfiguration>(uri, major, minor, "PropertiesPanelUserConfiguration");
     qmlRegisterType<ActionsModel>(uri, major, minor, "ActionsModel");
     qmlRegisterType<EntityModel>(uri, major, minor, "EntityModel");

@@ -10,7 +10,10 @@ TestCase {
 
     function test_create_data() {
         return [
-            "Spotlight_Cpp", "SpotlightModel", "SpotlightProxyModel", "HotkeyHandler_Cpp", "PropertiesPanelUserConfiguration", "ActionsModel", "EntityModel",
+            "Spotlight_Cpp", "SpotlightModel", "SpotlightProxyModel", "HotkeyHandler_Cpp",
+            "UnitsSubDataModel", "ScaleSubDataModel", "SnappingSubDataModel", "CoordinatesSubModel",
+            "MasterEntitySubDataModel", "StatusbarData", "StatusBar_Cpp",
+            "PropertiesPanelUserConfiguration", "ActionsModel", "EntityModel",
             "PropertiesModel", "PropertiesPanel_Cpp", "PropertiesProxyModel",
             "ComboBoxProxyModel", "FilterItemsProxyModel", "SelectionModel", "SimpleComboBoxProxyModel",
             "CommandMenuHelper",
