@@ -139,7 +139,7 @@ DisplayUnits::Shown DisplayUnits::ForStoredUnit(const QString& storedUnit, int s
     if (!stored || stored->angle)
         return shown;
     for (Quantity quantity : c_quantities) {
-        if (stored->dimension != Dimension(quantity))
+        if (stored->dimension != Dimension(quantity) || storedUnit != DefaultUnit(quantity))
             continue;
         const QString& unit = m_units[Slot(quantity)];
         shown.unit = unit;

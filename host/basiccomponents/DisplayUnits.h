@@ -23,9 +23,11 @@ namespace Orvo::UI::BasicComponents {
 // chosen here and read typed values back from it. A service of the catalog; every change is
 // stored in the user's settings and announced with Orvo::UI::Events::DisplayUnitsChanged.
 //
-// Only values whose unit is exactly one of these quantities follow the choice. Derived units
-// (kN/m, cm², kNm/rad) keep the unit of their definition: converting them too would give texts
-// like "N/mm" that no engineer types.
+// Only values kept in the base unit of one of these quantities (m, kN, kNm, MPa) follow the
+// choice. Values kept in another unit of the same kind belong to a finer quantity with a unit of
+// its own: section dimensions and displacements in mm stay in mm when lengths switch to cm.
+// Derived units (kN/m, cm², kNm/rad) keep theirs too: converting them would give texts like
+// "N/mm" that no engineer types.
 class HOSTKIT_EXPORT DisplayUnits
 {
 public:
