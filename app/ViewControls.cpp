@@ -62,7 +62,8 @@ ViewControls::ViewControls(QObject* parent)
                     = Kernel::Framework::ServiceCatalog::Global()->Get<Kernel::Model::ActiveEntities>();
                 if (!active)
                     return;
-                Graphic::DisplayOptions options = m_options;
+                // The view bar may have changed what the view shows since: start from the view.
+                Graphic::DisplayOptions options = View() ? View()->GetDisplayOptions() : m_options;
                 options.loadCase = active->GetLoadCase();
                 Apply(options);
             });

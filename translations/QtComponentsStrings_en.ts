@@ -2311,5 +2311,129 @@
         <source>The pointer snaps to the ground grid, one metre apart</source>
         <translation>The pointer snaps to the ground grid, one metre apart</translation>
     </message>
+    <message id="UI_PROCESS_MODEL">
+        <source>Model</source>
+        <translation>Model</translation>
+    </message>
+    <message id="UI_PROCESS_MODEL_DESCRIPTION">
+        <source>Nodes, members, supports, sections and materials of the structure</source>
+        <translation>Nodes, members, supports, sections and materials of the structure</translation>
+    </message>
+    <message id="UI_PROCESS_MODEL_ACTION">
+        <source>Edit model</source>
+        <translation>Edit model</translation>
+    </message>
+    <message id="UI_PROCESS_LOADS">
+        <source>Loads</source>
+        <translation>Loads</translation>
+    </message>
+    <message id="UI_PROCESS_LOADS_DESCRIPTION">
+        <source>Load cases, the loads on nodes and members, and their combinations</source>
+        <translation>Load cases, the loads on nodes and members, and their combinations</translation>
+    </message>
+    <message id="UI_PROCESS_LOADS_ACTION">
+        <source>Edit loads</source>
+        <translation>Edit loads</translation>
+    </message>
+    <message id="UI_PROCESS_ANALYSIS">
+        <source>Analysis</source>
+        <translation>Analysis</translation>
+    </message>
+    <message id="UI_PROCESS_ANALYSIS_DESCRIPTION">
+        <source>Linear analysis of the frame for every load case and combination</source>
+        <translation>Linear analysis of the frame for every load case and combination</translation>
+    </message>
+    <message id="UI_PROCESS_ANALYSIS_ACTION">
+        <source>Calculate</source>
+        <translation>Calculate</translation>
+    </message>
+    <message id="UI_PROCESS_RESULTS">
+        <source>Results</source>
+        <translation>Results</translation>
+    </message>
+    <message id="UI_PROCESS_RESULTS_DESCRIPTION">
+        <source>Deformed shape and internal forces of the last analysis</source>
+        <translation>Deformed shape and internal forces of the last analysis</translation>
+    </message>
+    <message id="UI_PROCESS_RESULTS_ACTION">
+        <source>Show results</source>
+        <translation>Show results</translation>
+    </message>
+    <message id="UI_PROCESS_DESIGN">
+        <source>Design</source>
+        <translation>Design</translation>
+    </message>
+    <message id="UI_PROCESS_DESIGN_DESCRIPTION">
+        <source>Design checks of members against the standard of the chosen country; needs a design module, which is not installed</source>
+        <translation>Design checks of members against the standard of the chosen country; needs a design module, which is not installed</translation>
+    </message>
+    <message id="UI_PROCESS_DESIGN_ACTION">
+        <source>Check design</source>
+        <translation>Check design</translation>
+    </message>
+    <message id="UI_PROCESS_STATE_NOT_STARTED">
+        <source>Not done yet</source>
+        <translation>Not done yet</translation>
+    </message>
+    <message id="UI_PROCESS_STATE_DONE">
+        <source>Done</source>
+        <translation>Done</translation>
+    </message>
+    <message id="UI_PROCESS_STATE_NEEDS_UPDATE">
+        <source>Needs an update: the model changed since</source>
+        <translation>Needs an update: the model changed since</translation>
+    </message>
+    <message id="UI_PROCESS_STATE_ERROR">
+        <source>Has errors</source>
+        <translation>Has errors</translation>
+    </message>
+    <message id="UI_PROCESS_STATE_RUNNING">
+        <source>Running</source>
+        <translation>Running</translation>
+    </message>
+    <message id="UI_PROCESS_ACTION_UNAVAILABLE">
+        <source>Not available now</source>
+        <translation>Not available now</translation>
+    </message>
+    <message id="UI_VIEWBAR_ISOMETRIC">
+        <source>Isometric</source>
+        <translation>Isometric</translation>
+    </message>
+    <message id="UI_VIEWBAR_TOP">
+        <source>Top</source>
+        <translation>Top</translation>
+    </message>
+    <message id="UI_VIEWBAR_FRONT">
+        <source>Front</source>
+        <translation>Front</translation>
+    </message>
+    <message id="UI_VIEWBAR_SIDE">
+        <source>Side</source>
+        <translation>Side</translation>
+    </message>
+    <message id="UI_VIEWBAR_FIT">
+        <source>Fit all</source>
+        <translation>Fit all</translation>
+    </message>
+    <message id="UI_VIEWBAR_SOLIDS">
+        <source>Solids</source>
+        <translation>Solids</translation>
+    </message>
+    <message id="UI_VIEWBAR_LOADS">
+        <source>Loads</source>
+        <translation>Loads</translation>
+    </message>
+    <message id="UI_VIEWBAR_SUPPORTS">
+        <source>Supports</source>
+        <translation>Supports</translation>
+    </message>
+    <message id="UI_VIEWBAR_DEFORMED">
+        <source>Deformed</source>
+        <translation>Deformed</translation>
+    </message>
+    <message id="UI_VIEWBAR_MOMENTS">
+        <source>Moments</source>
+        <translation>Moments</translation>
+    </message>
 </context>
 </TS>

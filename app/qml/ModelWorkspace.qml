@@ -5,7 +5,9 @@ import Qml.QtComponents
 import BasicComponents.Constants
 import Orvo.QtExtensions
 import UIComponents.GraphicView
+import UIComponents.ProcessToolbar
 import UIComponents.PropertiesPanel
+import UIComponents.ViewBar
 import Demo
 
 // The application's workspace on the one structural model: the model view in the centre, the
@@ -36,9 +38,22 @@ Item {
                 SplitView.minimumHeight: 200
                 spacing: 0
 
-                ViewToolbar {
+                // The project's steps; the centre button runs the current one's main action.
+                ProcessToolbar {
+                    objectName: "processToolbar"
                     Layout.fillWidth: true
-                    controls: DemoShell.viewControls
+                    onTablesRequested: bottomTabs.currentIndex = 1
+                    onResultsRequested: {
+                        DemoShell.viewControls.deformedShape = true
+                        DemoShell.viewControls.momentDiagram = true
+                    }
+                }
+
+                // Presets, framing and what the view shows; narrow, it folds into a menu.
+                ViewBar {
+                    objectName: "viewBar"
+                    Layout.fillWidth: true
+                    viewportId: graphicView.viewport.viewportId
                 }
 
                 // What the view does not take (the secondary button) falls through to the area,

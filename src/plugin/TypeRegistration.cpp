@@ -21,7 +21,9 @@
 #include "spotlight/Spotlight.h"
 #include "spotlight/SpotlightModel.h"
 #include "spotlight/SpotlightProxyModel.h"
+#include "status/ProcessToolbar.h"
 #include "status/StatusBar.h"
+#include "status/ViewBar.h"
 #include "tables/FilterBarModel.h"
 #include "tables/MultiEditAction.h"
 #include "tables/MultiEditActionSolver.h"
@@ -72,6 +74,12 @@ void RegisterQtComponentsTypes(const char* uri)
     qmlRegisterType<MasterEntitySubDataModel>(uri, major, minor, "MasterEntitySubDataModel");
     qmlRegisterType<StatusBarDataModel>(uri, major, minor, "StatusbarData");
     qmlRegisterType<StatusBar>(uri, major, minor, "StatusBar_Cpp");
+    qmlRegisterType<ProcessToolbar>(uri, major, minor, "ProcessToolbar_Cpp");
+    qmlRegisterType<CenterButtonData>(uri, major, minor, "CenterButtonData");
+    qmlRegisterType<TooltipData>(uri, major, minor, "TooltipData");
+    qmlRegisterType<ViewBar>(uri, major, minor, "ViewBar_Cpp");
+    qmlRegisterType<MoreOptionsMenuModel>(uri, major, minor, "MoreOptionsMenuModel");
+    qmlRegisterType<ViewBarUserConfiguration>(uri, major, minor, "ViewBarUserConfiguration");
     qmlRegisterType<PropertiesPanelUserConfiguration>(uri, major, minor, "PropertiesPanelUserConfiguration");
     qmlRegisterType<ActionsModel>(uri, major, minor, "ActionsModel");
     qmlRegisterType<EntityModel>(uri, major, minor, "EntityModel");

@@ -12,7 +12,8 @@ TestCase {
         return [
             "Spotlight_Cpp", "SpotlightModel", "SpotlightProxyModel", "HotkeyHandler_Cpp",
             "UnitsSubDataModel", "ScaleSubDataModel", "SnappingSubDataModel", "CoordinatesSubModel",
-            "MasterEntitySubDataModel", "StatusbarData", "StatusBar_Cpp",
+            "MasterEntitySubDataModel", "StatusbarData", "StatusBar_Cpp", "ProcessToolbar_Cpp", "CenterButtonData", "TooltipData",
+            "ViewBar_Cpp", "MoreOptionsMenuModel", "ViewBarUserConfiguration",
             "PropertiesPanelUserConfiguration", "ActionsModel", "EntityModel",
             "PropertiesModel", "PropertiesPanel_Cpp", "PropertiesProxyModel",
             "ComboBoxProxyModel", "FilterItemsProxyModel", "SelectionModel", "SimpleComboBoxProxyModel",
