@@ -1,7 +1,9 @@
 #include "MultiEditOperation.h"
 
+#include "TableCellText.h"
 #include "TableContentModel.h"
 #include "TableNumberText.h"
+#include "TablesLogging.h"
 
 #include <cmath>
 
@@ -61,8 +63,17 @@ std::optional<QVariant> MultiEditOperation::ApplyArithmetic(int action, const Ce
     }
     if (!std::isfinite(result))
         return std::nullopt;
-    if (cell.type == TableValueType::Integer)
-        result = static_cast<double>(std::llround(result));
+    if (cell.type == TableValueType::Integer) {
+        // A result the host cannot hold leaves the cell as it is, as typing it would be refused.
+        if (!TableCellText::FitsHostInteger(result)) {
+            qCWarning(lcTables).noquote()
+                << QStringLiteral("%1 is outside the integer range; the cell keeps %2")
+                       .arg(result)
+                       .arg(cell.value.toString());
+            return std::nullopt;
+        }
+        result = std::round(result);
+    }
     // A cell driven by a list of named values takes only the list's values: the result goes in as
     // the name that reads as it, and a result that no name reads as leaves the cell as it is.
     if (cell.usesParameter || !cell.parametersNames.isEmpty())
@@ -92,9 +103,8 @@ std::optional<QVariant> MultiEditOperation::ApplyReplace(const Cell& cell, const
         if (cell.type == TableValueType::List || cell.usesParameter)
             return std::nullopt;
     }
-    const QString value
-        = TableCellText::CreateContentUpdateValue(operand, cell.type, cell.parametersNames, TableNumberText(),
-                                                  cell.unit);
+    const QString value = TableCellText::CreateContentUpdateValue(operand, cell.type, cell.parametersNames,
+                                                                  TableNumberText(), cell.unit);
     if (value.isNull())
         return std::nullopt;
     return value;

@@ -50,21 +50,19 @@ bool IsNumeric(TableValueType type)
     return type == TableValueType::Bool || type == TableValueType::Integer || type == TableValueType::Real;
 }
 
-// The host keeps integer properties as 32-bit numbers: anything wider would arrive wrapped.
+// A plain number goes to the host as typed; an expression as the number it stands for. Null when the
+// host could not hold the number.
 QString IntegerText(const QString& text, double number)
 {
-    constexpr double lowest = std::numeric_limits<std::int32_t>::min();
-    constexpr double highest = std::numeric_limits<std::int32_t>::max();
-    const double rounded = std::round(number);
-    if (!(rounded >= lowest && rounded <= highest)) {
+    if (!TableCellText::FitsHostInteger(number)) {
         qCWarning(lcTables).noquote() << QStringLiteral("\"%1\" is outside the integer range %2 to %3")
                                              .arg(text.trimmed())
                                              .arg(std::numeric_limits<std::int32_t>::min())
                                              .arg(std::numeric_limits<std::int32_t>::max());
         return QString();
     }
-    // A plain number goes to the host as typed; an expression as the number it stands for.
-    return IsPlainNumber(text, false) ? text.trimmed() : QString::number(static_cast<std::int32_t>(rounded));
+    return IsPlainNumber(text, false) ? text.trimmed()
+                                      : QString::number(static_cast<std::int32_t>(std::round(number)));
 }
 
 } // namespace
@@ -167,6 +165,15 @@ bool TableCellText::IsCachedValue(const TableCellContent& cell, const QVariant& 
     return ToString(cached, type, TableNumberText()) == value.toString();
 }
 
+bool TableCellText::FitsHostInteger(double number)
+{
+    // The host keeps integer properties as 32-bit numbers: anything wider would arrive wrapped.
+    constexpr double lowest = std::numeric_limits<std::int32_t>::min();
+    constexpr double highest = std::numeric_limits<std::int32_t>::max();
+    const double rounded = std::round(number);
+    return rounded >= lowest && rounded <= highest;
+}
+
 int TableCellText::FindParameter(const QStringList& parametersNames, const QVariant& value)
 {
     if (parametersNames.isEmpty() || value.typeId() != QMetaType::QString)
@@ -180,8 +187,8 @@ int TableCellText::FindParameter(const QStringList& parametersNames, const QVari
 }
 
 TableCellText::Reading TableCellText::ReadTyped(const QString& text, TableValueType type,
-                                               const QStringList& parametersNames,
-                                               const TableNumberText& numbers, const QString& unit)
+                                                const QStringList& parametersNames,
+                                                const TableNumberText& numbers, const QString& unit)
 {
     if (!IsNumeric(type))
         return { text, {} };
@@ -197,33 +204,42 @@ TableCellText::Reading TableCellText::ReadTyped(const QString& text, TableValueT
     // A plain number is the column's number as it stands; an expression is read as a numeric
     // input of the column's unit reads it.
     const QString typed = expression.toString();
-    const TableNumberText::Reading reading
-        = IsPlainNumber(typed, true) ? TableNumberText::Reading { TableNumberText::Parse(typed), {} }
-                                     : TableNumberText::Parse(typed, unit);
+    const TableNumberText::Reading reading = IsPlainNumber(typed, true)
+        ? TableNumberText::Reading { TableNumberText::Parse(typed), {} }
+        : TableNumberText::Parse(typed, unit);
     if (!reading.number) {
         // Text that was not meant as an expression is simply no number; the calculator's own
         // verdict is kept for expressions and for what it can say more about (a unit that does
         // not fit the column).
-        const bool generic = reading.message.isEmpty() || reading.message == GetText(QStringLiteral("UI_INLINE_CALC_ERROR"));
+        const bool generic
+            = reading.message.isEmpty() || reading.message == GetText(QStringLiteral("UI_INLINE_CALC_ERROR"));
         if (ledByEquals)
             return { QString(), generic ? GetText(QStringLiteral("UI_INLINE_CALC_ERROR")) : reading.message };
-        return { QString(), generic ? GetText(QStringLiteral("UI_NUMERIC_INPUT_NOT_A_NUMBER")).arg(text.trimmed())
-                                    : reading.message };
+        return { QString(),
+                 generic ? GetText(QStringLiteral("UI_NUMERIC_INPUT_NOT_A_NUMBER")).arg(text.trimmed())
+                         : reading.message };
     }
     const double number = *reading.number;
     switch (type) {
     case TableValueType::Bool:
         if (!parametersNames.isEmpty())
-            return { number != 0.0 ? parametersNames.value(0) : parametersNames.value(1, parametersNames.value(0)),
+            return { number != 0.0 ? parametersNames.value(0)
+                                   : parametersNames.value(1, parametersNames.value(0)),
                      {} };
         return { number != 0.0 ? QStringLiteral("1") : QStringLiteral("0"), {} };
     case TableValueType::Integer: {
         // A whole number is never made of a fraction: "2.5" is refused, not rounded to 3.
         if (std::abs(number - std::round(number)) > c_wholeTolerance * std::max(1.0, std::abs(number)))
-            return { QString(), GetText(QStringLiteral("UI_NUMERIC_INPUT_NOT_WHOLE")).arg(numbers.ToEditText(number)) };
+            return { QString(),
+                     GetText(QStringLiteral("UI_NUMERIC_INPUT_NOT_WHOLE")).arg(numbers.ToEditText(number)) };
         const QString value = IntegerText(text, number);
-        return { value, value.isNull() ? GetText(QStringLiteral("UI_NUMERIC_INPUT_NOT_A_NUMBER")).arg(text.trimmed())
-                                       : QString() };
+        if (value.isNull())
+            return { QString(),
+                     GetText(QStringLiteral("UI_NUMERIC_INPUT_OUT_OF_RANGE"))
+                         .arg(text.trimmed())
+                         .arg(std::numeric_limits<std::int32_t>::min())
+                         .arg(std::numeric_limits<std::int32_t>::max()) };
+        return { value, {} };
     }
     default:
         return { IsPlainNumber(text, true) ? text.trimmed() : numbers.ToEditText(number), {} };

@@ -53,6 +53,8 @@ public:
 
     // Whether value is what the cell holds already (so an edit to it withdraws a pending one).
     static bool IsCachedValue(const TableCellContent& cell, const QVariant& value, TableValueType type);
+    // Whether number, rounded, is an integer the host can hold (NaN is not).
+    static bool FitsHostInteger(double number);
     // The parameter name a value stands for, matched case-insensitively; -1 when none.
     static int FindParameter(const QStringList& parametersNames, const QVariant& value);
 

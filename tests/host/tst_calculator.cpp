@@ -97,6 +97,9 @@ void tst_Calculator::shouldEvaluate_data()
     QTest::newRow("rounding, halves away from zero")
         << "round(2.5)*10 + round(-2.5) + floor(-1.5) + ceil(1.2)" << 27.0;
     QTest::newRow("min of one, min of several") << "min(4) + min(3;-1;2)" << 3.0;
+    // Evaluated on every keystroke, so the length is bounded; up to the bound everything is read.
+    QTest::newRow("the longest expression read")
+        << (QStringLiteral(" 1") + QStringLiteral("+1").repeated(499)) << 500.0;
 }
 
 void tst_Calculator::shouldEvaluate()
@@ -120,6 +123,9 @@ void tst_Calculator::shouldReject_data()
     for (const char* notFinite : { "1/0", "sqrt(-1)", "ln(0)", "10^400", "1e400", "asin(2)" })
         QTest::newRow(qPrintable(QStringLiteral("not finite: ") + QLatin1String(notFinite)))
             << QString::fromLatin1(notFinite);
+    QTest::newRow("one character too long to read on a keystroke")
+        << (QStringLiteral("  1") + QStringLiteral("+1").repeated(499));
+    QTest::newRow("a 4 KB paste") << (QStringLiteral("1") + QStringLiteral("+1").repeated(2048));
 }
 
 void tst_Calculator::shouldReject()

@@ -7,6 +7,7 @@
 #include "tables/TableContentModel.h"
 
 #include <QCoreApplication>
+#include <QRegularExpression>
 #include <QSignalSpy>
 #include <QTest>
 
@@ -119,6 +120,53 @@ private slots:
         }
         QCOMPARE(model.data(model.index(0, 1), TableContentModel::ContentRole).toString(),
                  QStringLiteral("0"));
+    }
+
+    void shouldLeaveIntegersWhoseResultTheHostCannotHold_data()
+    {
+        QTest::addColumn<int>("action");
+        QTest::addColumn<QString>("operand");
+        QTest::addColumn<QStringList>("counts"); // rows 1..3 hold 1, 2, 3
+        QTest::newRow("past the largest, the others still change")
+            << 2 << "1e9" << QStringList { "1000000000", "2000000000", "3" };
+        QTest::newRow("far past 64 bits") << 2 << "1e20" << QStringList { "1", "2", "3" };
+        QTest::newRow("below the smallest")
+            << 1 << "2147483650" << QStringList { "1", "-2147483648", "-2147483647" };
+        QTest::newRow("added past the largest")
+            << 0 << "2147483646" << QStringList { "2147483647", "2", "3" };
+    }
+
+    void shouldLeaveIntegersWhoseResultTheHostCannotHold()
+    {
+        // Given counts 1, 2 and 3 selected
+        QFETCH(int, action);
+        QFETCH(QString, operand);
+        QFETCH(QStringList, counts);
+        TableContentModel model;
+        TableTestFeeder feeder(model);
+        model.setAllowEdit(true);
+        feeder.SetTable(MemberColumns(), MemberRows(6));
+        feeder.Load();
+        model.selectionModel()->select(model.index(1, 1), TableSelectionModel::CleanSelect);
+        model.selectionModel()->selectRegion(model.index(3, 1), TableSelectionModel::CleanSelect);
+        // When an operator takes some beyond what the host holds
+        for (int row = 1; row <= 3; ++row) {
+            if (counts[row - 1] == QString::number(row))
+                QTest::ignoreMessage(QtWarningMsg, QRegularExpression("outside the integer range"));
+        }
+        model.setDataForSelection(action, operand);
+        // Then only the results the host can hold wait for it
+        for (int row = 1; row <= 3; ++row) {
+            const QVariant value = model.PendingValue(row, 1);
+            if (counts[row - 1] == QString::number(row))
+                QVERIFY2(!value.isValid(), qPrintable(value.toString()));
+            else
+                QCOMPARE(value.toString(), counts[row - 1]);
+        }
+        model.confirmUpdate();
+        for (int row = 1; row <= 3; ++row)
+            QCOMPARE(model.data(model.index(row, 1), TableContentModel::ContentRole).toString(),
+                     counts[row - 1]);
     }
 
     void shouldReplaceNamedValuesByName()

@@ -41,37 +41,67 @@ private slots:
         const int real = int(TableValueType::Real);
         const int boolean = int(TableValueType::Bool);
         const QStringList none;
-        QTest::newRow("integer expression") << "2*3" << integer << none << "" << "6" << "";
-        QTest::newRow("integer as typed") << " 42 " << integer << none << "" << "42" << "";
-        QTest::newRow("largest integer") << "2147483647" << integer << none << "" << "2147483647" << "";
+        QTest::newRow("integer expression") << "2*3" << integer << none << ""
+                                            << "6"
+                                            << "";
+        QTest::newRow("integer as typed") << " 42 " << integer << none << ""
+                                          << "42"
+                                          << "";
+        QTest::newRow("largest integer") << "2147483647" << integer << none << ""
+                                         << "2147483647"
+                                         << "";
         QTest::newRow("fraction in an integer cell is refused, not rounded")
             << "2,6" << integer << none << "" << QString() << "2.6 is not a whole number";
         QTest::newRow("fractional expression in an integer cell")
             << "=7/2" << integer << none << "" << QString() << "3.5 is not a whole number";
+        QTest::newRow("beyond what the host holds")
+            << "1e20" << integer << none << "" << QString() << "1e20 is outside -2147483648 … 2147483647";
         QTest::newRow("not a number") << "abc" << integer << none << "" << QString() << "abc is not a number";
-        QTest::newRow("real as typed, decimal comma") << "1,5" << real << none << "" << "1,5" << "";
-        QTest::newRow("expression led by =, decimal comma") << "=2*1,5" << real << none << "" << "3" << "";
-        QTest::newRow("expression with a unit, no column unit") << "2500mm" << real << none << "" << "2.5" << "";
-        QTest::newRow("invalid expression") << "=2+" << real << none << "" << QString() << "Invalid expression";
+        QTest::newRow("real as typed, decimal comma") << "1,5" << real << none << ""
+                                                      << "1,5"
+                                                      << "";
+        QTest::newRow("expression led by =, decimal comma") << "=2*1,5" << real << none << ""
+                                                            << "3"
+                                                            << "";
+        QTest::newRow("expression with a unit, no column unit") << "2500mm" << real << none << ""
+                                                                << "2.5"
+                                                                << "";
+        QTest::newRow("invalid expression")
+            << "=2+" << real << none << "" << QString() << "Invalid expression";
         QTest::newRow("= alone is nothing") << "=" << real << none << "" << QString() << "";
-        QTest::newRow("units converted into the column's")
-            << "=30cm" << real << none << "mm" << "300" << "";
-        QTest::newRow("no units: read in the column's") << "=2*150" << real << none << "mm" << "300" << "";
-        QTest::newRow("plain number in a column with a unit") << "2,5" << real << none << "m" << "2,5" << "";
+        QTest::newRow("units converted into the column's") << "=30cm" << real << none << "mm"
+                                                           << "300"
+                                                           << "";
+        QTest::newRow("no units: read in the column's") << "=2*150" << real << none << "mm"
+                                                        << "300"
+                                                        << "";
+        QTest::newRow("plain number in a column with a unit") << "2,5" << real << none << "m"
+                                                              << "2,5"
+                                                              << "";
         QTest::newRow("a unit of another quantity")
             << "=5kN" << real << none << "m" << QString() << "kN is a force; this field takes a length";
-        QTest::newRow("same without =") << "5kN" << real << none << "m" << QString()
-                                        << "kN is a force; this field takes a length";
-        QTest::newRow("words with a unit are no number") << "abc" << real << none << "m" << QString()
-                                                         << "abc is not a number";
+        QTest::newRow("same without =")
+            << "5kN" << real << none << "m" << QString() << "kN is a force; this field takes a length";
+        QTest::newRow("words with a unit are no number")
+            << "abc" << real << none << "m" << QString() << "abc is not a number";
         QTest::newRow("named value, any case, as written")
-            << "fREE" << boolean << QStringList { "Fixed", "Free" } << "" << "fREE" << "";
+            << "fREE" << boolean << QStringList { "Fixed", "Free" } << ""
+            << "fREE"
+            << "";
         QTest::newRow("bool number takes the first name")
-            << "1" << boolean << QStringList { "Yes", "No" } << "" << "Yes" << "";
+            << "1" << boolean << QStringList { "Yes", "No" } << ""
+            << "Yes"
+            << "";
         QTest::newRow("bool zero takes the second name")
-            << "0" << boolean << QStringList { "Yes", "No" } << "" << "No" << "";
-        QTest::newRow("bool without names") << "5" << boolean << none << "" << "1" << "";
-        QTest::newRow("text stays text") << "abc" << int(TableValueType::String) << none << "" << "abc" << "";
+            << "0" << boolean << QStringList { "Yes", "No" } << ""
+            << "No"
+            << "";
+        QTest::newRow("bool without names") << "5" << boolean << none << ""
+                                            << "1"
+                                            << "";
+        QTest::newRow("text stays text") << "abc" << int(TableValueType::String) << none << ""
+                                         << "abc"
+                                         << "";
     }
 
     void shouldConvertTypedText()
