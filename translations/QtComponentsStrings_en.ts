@@ -915,6 +915,18 @@
         <source>Enter gives it to the command</source>
         <translation>Enter gives it to the command</translation>
     </message>
+    <message id="UI_COMMAND_OPEN">
+        <source>Open…</source>
+        <translation>Open…</translation>
+    </message>
+    <message id="UI_MENU_OBJECT">
+        <source>Object</source>
+        <translation>Object</translation>
+    </message>
+    <message id="UI_MENU_SEARCH_EMPTY">
+        <source>No command matches</source>
+        <translation>No command matches</translation>
+    </message>
     <message id="UI_MENU_FILE">
         <source>File</source>
         <translation>File</translation>

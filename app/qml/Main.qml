@@ -8,6 +8,7 @@ import UIComponents.Constants
 import Orvo.QtExtensions
 import UIComponents.MarkingMenu
 import UIComponents.Spotlight
+import UIComponents.MenuSystem
 import Demo
 
 ApplicationWindow {
@@ -58,6 +59,11 @@ ApplicationWindow {
         width: Math.min(620, window.width - 40)
         anchors.horizontalCenter: parent.horizontalCenter
         y: 60
+    }
+
+    // The application's menus, built from the shipped menu definition.
+    menuBar: MenuSystem {
+        objectName: "menuSystem"
     }
 
     header: Rectangle {

@@ -35,8 +35,12 @@ std::vector<MenuEntry> ReadItems(const pugi::xml_node& parent)
             }
         } else if (XMLHandler::HasName(node, L"separator")) {
             entry.type = MenuEntry::Type::Separator;
-        } else if (XMLHandler::HasName(node, L"menu")) {
+        } else if (XMLHandler::HasName(node, L"recentfiles")) {
+            entry.type = MenuEntry::Type::RecentFiles;
+            entry.commandUuid = QString::fromStdWString(XMLHandler::ReadAttribReq(node, L"command"));
+        } else if (XMLHandler::HasName(node, L"menu") || XMLHandler::HasName(node, L"contextmenu")) {
             entry.type = MenuEntry::Type::Submenu;
+            entry.context = XMLHandler::HasName(node, L"contextmenu");
             entry.id = QString::fromStdWString(XMLHandler::ReadAttribReq(node, L"id"));
             entry.nameId = QString::fromStdWString(XMLHandler::ReadAttribReq(node, L"name"));
             entry.children = ReadItems(node);
@@ -97,12 +101,18 @@ void MenuDefinition::Read(const XMLHandler& document)
     const pugi::xml_node root = document.RootNode();
     if (!XMLHandler::HasName(root, L"menus"))
         throw std::invalid_argument("The menu definition's root element is not <menus>.");
-    m_menus = ReadItems(root);
+    m_menus.clear();
+    m_contextMenus.clear();
+    for (MenuEntry& entry : ReadItems(root))
+        (entry.context ? m_contextMenus : m_menus).push_back(std::move(entry));
 }
 
 const std::vector<MenuEntry>* MenuDefinition::FindItems(const QString& menuId) const
 {
-    return menuId.isEmpty() ? &m_menus : FindIn(m_menus, menuId);
+    if (menuId.isEmpty())
+        return &m_menus;
+    const auto* found = FindIn(m_menus, menuId);
+    return found ? found : FindIn(m_contextMenus, menuId);
 }
 
 const MenuEntry* MenuDefinition::FindCommand(const QString& commandUuid) const

@@ -5,11 +5,15 @@
 #include "commands/IUICommandProcessor.h"
 #include "events/CommandShortcutChange.h"
 #include "events/CommandStateChange.h"
+#include "events/RecentFilesChange.h"
 #include "framework/EventBus.h"
 #include "framework/ServiceCatalog.h"
 #include "kernel/Directories.h"
 #include "plugin/QtComponentsText.h"
 #include "qtextensions/File.h"
+
+#include <QFileInfo>
+#include <algorithm>
 
 namespace Orvo::UI::UIComponents {
 
@@ -19,10 +23,25 @@ MenuItemsModel::MenuItemsModel(QObject* parent)
     : QAbstractListModel(parent)
     , m_definition(ShippedDefinition())
 {
-    ServiceCatalog::Global()->Inject(*this);
+    auto catalog = ServiceCatalog::Global();
+    catalog->Inject(*this);
+    m_recentFiles = catalog->Get<RecentFiles>();
     Rebuild();
 }
 
+void MenuItemsModel::SetRecentFiles(std::shared_ptr<RecentFiles> recentFiles)
+{
+    m_recentFiles = std::move(recentFiles);
+    Rebuild();
+}
+
+bool MenuItemsModel::ListsRecentFiles() const
+{
+    const auto* items = m_allCommands ? nullptr : m_definition->FindItems(m_menuId);
+    return items && std::any_of(items->begin(), items->end(), [](const MenuEntry& entry) {
+               return entry.type == MenuEntry::Type::RecentFiles;
+           });
+}
 MenuItemsModel::~MenuItemsModel() = default;
 
 std::shared_ptr<const MenuDefinition> MenuItemsModel::ShippedDefinition()
@@ -79,8 +98,14 @@ void MenuItemsModel::Rebuild()
     if (m_allCommands) {
         CollectCommands(m_definition->Menus(), QString());
     } else if (const auto* items = m_definition->FindItems(m_menuId)) {
-        for (const MenuEntry& entry : *items)
-            m_rows.push_back({ &entry, QString() });
+        for (const MenuEntry& entry : *items) {
+            if (entry.type != MenuEntry::Type::RecentFiles) {
+                m_rows.push_back({ &entry, QString() });
+            } else if (m_recentFiles) {
+                for (const QString& file : m_recentFiles->Files())
+                    m_rows.push_back({ &entry, file });
+            }
+        }
     }
     endResetModel();
     if (rowCount() != before)
@@ -91,14 +116,20 @@ bool MenuItemsModel::trigger(int row)
 {
     if (row < 0 || row >= rowCount() || !m_processor || !m_repository)
         return false;
-    const MenuEntry* entry = m_rows[std::size_t(row)].entry;
-    if (entry->type != MenuEntry::Type::Command)
+    const Row& item = m_rows[std::size_t(row)];
+    const MenuEntry* entry = item.entry;
+    if (entry->type != MenuEntry::Type::Command && entry->type != MenuEntry::Type::RecentFiles)
         return false;
+    // Copied: running the command may change the recent files and so rebuild the rows.
+    const QString file = item.path;
     return CatchAtMenuBoundary("Running a menu command", false, [&] {
         const auto command = m_repository->FindCommand(entry->commandUuid.toStdWString());
         if (!command || !command->enabled)
             return false;
-        return m_processor->ExecuteCommand(command->uuid, command->parameterString, c_origin);
+        const std::wstring parameters = entry->type == MenuEntry::Type::RecentFiles
+            ? RecentFiles::c_fileParameter + file.toStdWString()
+            : command->parameterString;
+        return m_processor->ExecuteCommand(command->uuid, parameters, c_origin);
     });
 }
 
@@ -115,9 +146,7 @@ QVariant MenuItemsModel::data(const QModelIndex& index, int role) const
     const MenuEntry& entry = *row.entry;
     switch (entry.type) {
     case MenuEntry::Type::Separator:
-        return role == ItemTypeRole ? QVariant(SeparatorItem)
-            : role == ShownRole     ? QVariant(true)
-                                    : QVariant();
+        return role == ItemTypeRole ? QVariant(SeparatorItem) : EmptyValue(role);
     case MenuEntry::Type::Submenu:
         switch (role) {
         case ItemTypeRole:
@@ -127,12 +156,11 @@ QVariant MenuItemsModel::data(const QModelIndex& index, int role) const
             return GetText(entry.nameId);
         case SubmenuIdRole:
             return entry.id;
-        case EnabledRole:
-        case ShownRole:
-            return true;
         default:
-            return QVariant();
+            return EmptyValue(role);
         }
+    case MenuEntry::Type::RecentFiles:
+        return RecentFileData(row, role);
     case MenuEntry::Type::Command:
         break;
     }
@@ -159,6 +187,57 @@ QVariant MenuItemsModel::data(const QModelIndex& index, int role) const
         return row.path;
     case HasSubcommandsRole:
         return !entry.subcommands.empty();
+    case CheckableRole:
+        return command && command->checkable;
+    case CheckedRole:
+        return command && command->checked;
+    default:
+        return EmptyValue(role);
+    }
+}
+
+QVariant MenuItemsModel::RecentFileData(const Row& row, int role) const
+{
+    switch (role) {
+    case ItemTypeRole:
+        return RecentFileItem;
+    case Qt::DisplayRole:
+    case TextRole:
+        return QFileInfo(row.path).fileName();
+    case FileRole:
+        return row.path;
+    case UuidRole:
+        return row.entry->commandUuid;
+    case EnabledRole: {
+        const auto command
+            = m_repository ? m_repository->FindCommand(row.entry->commandUuid.toStdWString()) : std::nullopt;
+        return command && command->enabled;
+    }
+    default:
+        return EmptyValue(role);
+    }
+}
+
+QVariant MenuItemsModel::EmptyValue(int role)
+{
+    // Every row answers every role, so that a delegate can require them all whatever the row is.
+    switch (role) {
+    case EnabledRole:
+    case ShownRole:
+        return true;
+    case HasSubcommandsRole:
+    case CheckableRole:
+    case CheckedRole:
+        return false;
+    case TextRole:
+    case Qt::DisplayRole:
+    case IconRole:
+    case ShortcutRole:
+    case UuidRole:
+    case SubmenuIdRole:
+    case PathRole:
+    case FileRole:
+        return QString();
     default:
         return QVariant();
     }
@@ -166,17 +245,22 @@ QVariant MenuItemsModel::data(const QModelIndex& index, int role) const
 
 QHash<int, QByteArray> MenuItemsModel::roleNames() const
 {
+    // Named apart from the properties of the controls that show them (a menu item's text, icon
+    // and checked), so that a delegate can take them as required properties.
     return { { Qt::DisplayRole, "display" },
              { ItemTypeRole, "itemType" },
-             { TextRole, "text" },
-             { IconRole, "icon" },
+             { TextRole, "label" },
+             { IconRole, "iconSource" },
              { ShortcutRole, "shortcut" },
              { EnabledRole, "available" },
              { ShownRole, "shown" },
              { UuidRole, "uuid" },
              { SubmenuIdRole, "submenuId" },
              { PathRole, "path" },
-             { HasSubcommandsRole, "hasSubcommands" } };
+             { HasSubcommandsRole, "hasSubcommands" },
+             { CheckableRole, "isCheckable" },
+             { CheckedRole, "isChecked" },
+             { FileRole, "file" } };
 }
 
 void MenuItemsModel::OnCommandStateChanged(const std::wstring& uuid)
@@ -191,7 +275,7 @@ void MenuItemsModel::OnCommandStateChanged(const std::wstring& uuid)
     const QString changed = QString::fromStdWString(uuid);
     for (int row = 0; row < rowCount(); ++row) {
         if (m_rows[std::size_t(row)].entry->commandUuid == changed)
-            emit dataChanged(index(row), index(row), { EnabledRole, ShownRole });
+            emit dataChanged(index(row), index(row), { EnabledRole, ShownRole, CheckedRole });
     }
 }
 
@@ -201,8 +285,13 @@ void MenuItemsModel::SetEventbus(std::shared_ptr<EventBus> eventbus)
     if (!m_eventbus) {
         m_stateConnection = EventConnection();
         m_shortcutConnection = EventConnection();
+        m_recentFilesConnection = EventConnection();
         return;
     }
+    m_recentFilesConnection = m_eventbus->Subscribe<Events::RecentFilesChange>([this](const auto&) {
+        if (ListsRecentFiles())
+            Rebuild();
+    });
     m_stateConnection = m_eventbus->Subscribe<Events::CommandStateChange>(
         [this](const Events::CommandStateChange& event) { OnCommandStateChanged(event.GetCommandUuid()); });
     m_shortcutConnection = m_eventbus->Subscribe<Events::CommandShortcutChange>([this](const auto&) {

@@ -3,6 +3,7 @@
 #include "MenuDefinition.h"
 #include "commands/INeedCommandRepository.h"
 #include "commands/INeedUICommandProcessor.h"
+#include "commands/RecentFiles.h"
 #include "framework/EventConnection.h"
 #include "framework/INeedEventbus.h"
 
@@ -14,7 +15,8 @@ namespace Orvo::UI::UIComponents {
 
 // The items of one menu (menuId; the menu bar when empty), or with allCommands every command of
 // every menu with the path to it, for searching the menus. Names, icons, shortcuts and the
-// enabled and visible states are the command repository's and follow its changes.
+// enabled, visible and checked states are the command repository's and follow its changes; the
+// recently used files are listed where the menu says and follow the host's list.
 class MenuItemsModel : public QAbstractListModel,
                        public Kernel::Framework::INeedEventbus,
                        public Kernel::Framework::INeedCommandRepository,
@@ -32,6 +34,7 @@ public:
         CommandItem,
         SeparatorItem,
         SubmenuItem,
+        RecentFileItem,
     };
     Q_ENUM(ItemType)
 
@@ -47,6 +50,9 @@ public:
         SubmenuIdRole,
         PathRole,
         HasSubcommandsRole,
+        CheckableRole,
+        CheckedRole,
+        FileRole,
     };
     Q_ENUM(Roles)
 
@@ -66,6 +72,8 @@ public:
 
     // The menus to show; by default the shipped definition of the application directory.
     void SetDefinition(std::shared_ptr<const MenuDefinition> definition);
+    // The recently used files; by default the host's.
+    void SetRecentFiles(std::shared_ptr<Kernel::Framework::RecentFiles> recentFiles);
 
     int rowCount(const QModelIndex& parent = QModelIndex()) const override;
     QVariant data(const QModelIndex& index, int role) const override;
@@ -90,11 +98,14 @@ private:
     struct Row
     {
         const MenuEntry* entry = nullptr;
-        QString path;
+        QString path; // the menus leading to a command of allCommands; a recent file's path
     };
     void Rebuild();
     void CollectCommands(const std::vector<MenuEntry>& items, const QString& path);
     void OnCommandStateChanged(const std::wstring& uuid);
+    QVariant RecentFileData(const Row& row, int role) const;
+    static QVariant EmptyValue(int role);
+    bool ListsRecentFiles() const;
 
     QString m_menuId;
     bool m_allCommands = false;
@@ -105,6 +116,8 @@ private:
     std::shared_ptr<Kernel::Framework::IUICommandProcessor> m_processor;
     Kernel::Framework::EventConnection m_stateConnection;
     Kernel::Framework::EventConnection m_shortcutConnection;
+    Kernel::Framework::EventConnection m_recentFilesConnection;
+    std::shared_ptr<Kernel::Framework::RecentFiles> m_recentFiles;
 };
 
 } // namespace Orvo::UI::UIComponents

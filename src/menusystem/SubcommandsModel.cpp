@@ -89,8 +89,8 @@ QVariant SubcommandsModel::data(const QModelIndex& index, int role) const
 QHash<int, QByteArray> SubcommandsModel::roleNames() const
 {
     return { { Qt::DisplayRole, "display" },
-             { TextRole, "text" },
-             { IconRole, "icon" },
+             { TextRole, "label" },
+             { IconRole, "iconSource" },
              { ParametersRole, "parameters" } };
 }
 

@@ -1,5 +1,9 @@
 #include "TestHost.h"
+#include "commands/CommandRepository.h"
 #include "commands/ICommandRepository.h"
+#include "commands/IUICommandProcessor.h"
+#include "commands/RecentFiles.h"
+#include "commands/UICommandProcessor.h"
 #include "events/CommandExecuted.h"
 #include "framework/EventBus.h"
 #include "menusystem/MenuItemsFilterModel.h"
@@ -10,6 +14,7 @@
 #include <QAbstractItemModelTester>
 #include <QSignalSpy>
 #include <QTest>
+#include <QUndoStack>
 
 using namespace Orvo::Kernel::Framework;
 using namespace Orvo::UI::UIComponents;
@@ -17,17 +22,19 @@ using namespace Orvo::UI::UIComponents;
 namespace {
 
 const char* const c_commands = R"(<commands>
-  <command uuid="undo" name="UI_COMMAND_UNDO" shortcut="Ctrl+Z"/>
+  <command uuid="c6d02f75-d199-457a-9a4d-f1246cb8feb4" name="UI_COMMAND_UNDO" shortcut="Ctrl+Z"/>
   <command uuid="move" name="UI_COMMAND_MOVE" shortcut="Ctrl+M"/>
   <command uuid="copy" name="UI_COMMAND_COPY"/>
   <command uuid="delete" name="UI_COMMAND_DELETE" shortcut="Del"/>
   <command uuid="member" name="UI_COMMAND_NEW_MEMBER"/>
   <command uuid="support" name="UI_COMMAND_NEW_SUPPORT"/>
+  <command uuid="results" name="UI_COMMAND_SHOW_RESULTS" checkable="true"/>
+  <command uuid="open" name="UI_COMMAND_OPEN"/>
 </commands>)";
 
 const char* const c_menus = R"(<menus>
   <menu id="edit" name="UI_MENU_EDIT">
-    <command uuid="undo"/>
+    <command uuid="c6d02f75-d199-457a-9a4d-f1246cb8feb4"/>
     <separator/>
     <command uuid="move"/>
     <command uuid="copy"/>
@@ -45,6 +52,17 @@ const char* const c_menus = R"(<menus>
       <command uuid="support"/>
     </menu>
   </menu>
+  <menu id="file" name="UI_MENU_FILE">
+    <command uuid="open"/>
+    <separator/>
+    <recentfiles command="open"/>
+    <separator/>
+    <command uuid="results"/>
+  </menu>
+  <contextmenu id="context.object" name="UI_MENU_OBJECT">
+    <command uuid="move"/>
+    <command uuid="delete"/>
+  </contextmenu>
 </menus>)";
 
 QStringList Texts(const QAbstractItemModel& model)
@@ -93,8 +111,8 @@ private slots:
             << QStringList() << QStringList { "Undo", "-", "Move", "Copy", "-", "Delete" };
         QTest::newRow("a group hidden takes its separator")
             << QStringList { "move", "copy" } << QStringList { "Undo", "-", "Delete" };
-        QTest::newRow("nothing before a separator")
-            << QStringList { "undo" } << QStringList { "Move", "Copy", "-", "Delete" };
+        QTest::newRow("nothing before a separator") << QStringList { "c6d02f75-d199-457a-9a4d-f1246cb8feb4" }
+                                                    << QStringList { "Move", "Copy", "-", "Delete" };
         QTest::newRow("nothing after a separator")
             << QStringList { "delete" } << QStringList { "Undo", "-", "Move", "Copy" };
     }
@@ -178,6 +196,111 @@ private slots:
         found.setSourceModel(menus.allCommands());
         found.setSearchText(search);
         QCOMPARE(Texts(found), expected);
+    }
+
+    void checkableCommandsShouldShowWhetherTheyAreOn()
+    {
+        MenuSystem menus;
+        MenuItemsModel* file = menus.menuItems(QStringLiteral("file"));
+        QAbstractItemModelTester tester(file, QAbstractItemModelTester::FailureReportingMode::QtTest);
+        const int resultsRow = Texts(*file).indexOf(QStringLiteral("Show results"));
+        const QModelIndex results = file->index(resultsRow);
+        QVERIFY(results.data(MenuItemsModel::CheckableRole).toBool());
+        QVERIFY(!results.data(MenuItemsModel::CheckedRole).toBool());
+        QVERIFY(!file->index(0).data(MenuItemsModel::CheckableRole).toBool());
+        QSignalSpy changed(file, &QAbstractItemModel::dataChanged);
+        // Running a checkable command switches it over, as the menu shows.
+        QVERIFY(file->trigger(resultsRow));
+        QVERIFY(results.data(MenuItemsModel::CheckedRole).toBool());
+        QCOMPARE(changed.count(), 1);
+        QVERIFY(changed.first().at(2).value<QList<int>>().contains(MenuItemsModel::CheckedRole));
+        QVERIFY(file->trigger(resultsRow));
+        QVERIFY(!results.data(MenuItemsModel::CheckedRole).toBool());
+        // A command that does not switch anything cannot be on.
+        QVERIFY(!Repository()->SetCommandChecked(L"open", true));
+    }
+
+    void undoAndRedoShouldBeEnabledWhileTheStackAllows()
+    {
+        auto stack = m_catalog->Get<QUndoStack>();
+        MenuSystem menus;
+        MenuItemsModel* edit = menus.menuItems(QStringLiteral("edit"));
+        const QModelIndex undo = edit->index(0);
+        QVERIFY(!undo.data(MenuItemsModel::EnabledRole).toBool());
+        QVERIFY(!edit->trigger(0));
+        stack->push(new QUndoCommand(QStringLiteral("change")));
+        QVERIFY(undo.data(MenuItemsModel::EnabledRole).toBool());
+        QVERIFY(edit->trigger(0));
+        QVERIFY(!undo.data(MenuItemsModel::EnabledRole).toBool());
+        QVERIFY(!stack->canUndo());
+        // Reloading the commands brings back the file's states; the stack still decides.
+        m_host->WriteFile(QStringLiteral("Configuration/Commands.xml"), c_commands);
+        stack->redo();
+        QVERIFY(
+            std::dynamic_pointer_cast<CommandRepository>(Repository())
+                ->LoadFile(m_host->FilePath(QStringLiteral("Configuration/Commands.xml")).toStdWString()));
+        QVERIFY(undo.data(MenuItemsModel::EnabledRole).toBool());
+    }
+
+    void recentFilesShouldBeListedWhereTheMenuSays_data()
+    {
+        QTest::addColumn<QStringList>("opened");
+        QTest::addColumn<QStringList>("expected");
+        QTest::newRow("none: no doubled separator")
+            << QStringList() << QStringList { "Open…", "-", "Show results" };
+        QTest::newRow("most recent first")
+            << QStringList { "/models/a.orvo", "/models/b.orvo" }
+            << QStringList { "Open…", "-", "b.orvo", "a.orvo", "-", "Show results" };
+        QTest::newRow("opened again moves to the top")
+            << QStringList { "/models/a.orvo", "/models/b.orvo", "/models/a.orvo" }
+            << QStringList { "Open…", "-", "a.orvo", "b.orvo", "-", "Show results" };
+    }
+
+    void recentFilesShouldBeListedWhereTheMenuSays()
+    {
+        QFETCH(QStringList, opened);
+        QFETCH(QStringList, expected);
+        auto processor = m_catalog->Get<IUICommandProcessor>();
+        MenuSystem menus;
+        MenuItemsFilterModel shown;
+        QAbstractItemModelTester tester(&shown, QAbstractItemModelTester::FailureReportingMode::QtTest);
+        shown.setSourceModel(menus.menuItems(QStringLiteral("file")));
+        for (const QString& file : opened)
+            QVERIFY(processor->ExecuteCommand(L"open", L"file=" + file.toStdWString(), L"test"));
+        QCOMPARE(Texts(shown), expected);
+    }
+
+    void aRecentFileShouldOpenWithItsCommand()
+    {
+        std::vector<std::wstring> parameters;
+        auto connection = m_catalog->Get<EventBus>()->Subscribe<Orvo::UI::Events::CommandExecuted>(
+            [&](const auto& event) { parameters.push_back(event.GetParameterString()); });
+        auto recentFiles = m_catalog->Get<RecentFiles>();
+        recentFiles->Add(QStringLiteral("/models/a.orvo"));
+        recentFiles->Add(QStringLiteral("/models/b.orvo"));
+        MenuSystem menus;
+        MenuItemsModel* file = menus.menuItems(QStringLiteral("file"));
+        const int aRow = Texts(*file).indexOf(QStringLiteral("a.orvo"));
+        QCOMPARE(file->index(aRow).data(MenuItemsModel::FileRole).toString(),
+                 QStringLiteral("/models/a.orvo"));
+        QVERIFY(file->trigger(aRow));
+        QCOMPARE(parameters, std::vector<std::wstring> { L"file=/models/a.orvo" });
+        QCOMPARE(recentFiles->Files(), (QStringList { "/models/a.orvo", "/models/b.orvo" }));
+        // Kept for the next session.
+        RecentFiles reread(m_host->FilePath(QStringLiteral("user/RecentFiles.txt")).toStdWString(), nullptr);
+        QCOMPARE(reread.Files(), recentFiles->Files());
+    }
+
+    void contextMenusShouldStayOutOfTheMenuBar()
+    {
+        MenuSystem menus;
+        QCOMPARE(Texts(*menus.menuBar()), (QStringList { "Edit", "Model", "File" }));
+        QCOMPARE(Texts(*menus.menuItems(QStringLiteral("context.object"))),
+                 (QStringList { "Move", "Delete" }));
+        MenuItemsFilterModel found;
+        found.setSourceModel(menus.allCommands());
+        found.setSearchText(QStringLiteral("delete"));
+        QCOMPARE(found.rowCount(), 1);
     }
 
     void aMissingDefinitionShouldLeaveEmptyMenus()
