@@ -4,5 +4,5 @@ import Orvo.QtExtensions
 // The shortcuts page's list of bindings: its rows name their commands through the page's
 // command list.
 ListView {
-    property CommandListModel commands
+    property CommandListModel commandList
 }

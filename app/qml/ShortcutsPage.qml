@@ -249,7 +249,7 @@ Item {
                         policy: bindingsList.contentHeight > bindingsList.height ? Controls.ScrollBar.AlwaysOn : Controls.ScrollBar.AlwaysOff
                     }
                     model: DemoShell.hotkeyHandlerModel
-                    commands: commands
+                    commandList: commands
                     delegate: RowLayout {
                         id: bindingRow
                         // The list attaches itself only after the row's first bindings.
@@ -267,7 +267,7 @@ Item {
                         }
                         BasicLabel {
                             Layout.fillWidth: true
-                            text: bindingRow.list ? bindingRow.list.commands.commandName(bindingRow.cmdUuid) : ""
+                            text: bindingRow.list ? bindingRow.list.commandList.commandName(bindingRow.cmdUuid) : ""
                             font.pixelSize: BasicConstants.fonts.small
                         }
                     }
