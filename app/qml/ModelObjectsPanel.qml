@@ -75,7 +75,7 @@ BasicPanel {
             }
         }
 
-        ListView {
+        ModelObjectsList {
             id: objectList
             objectName: "modelObjectsList"
             Layout.fillWidth: true
@@ -83,8 +83,12 @@ BasicPanel {
             clip: true
             model: objects
             boundsBehavior: Flickable.StopAtBounds
+            numberWidth: panel.numberWidth
+            nameWidth: panel.nameWidth
             delegate: Rectangle {
                 id: objectRow
+                // The list attaches itself only after the row's first bindings.
+                readonly property ModelObjectsList list: ListView.view as ModelObjectsList
                 required property int index
                 required property int number
                 required property string typeName
@@ -101,14 +105,14 @@ BasicPanel {
                     anchors { fill: parent; leftMargin: BasicConstants.sizes.margin }
                     spacing: BasicConstants.sizes.margin
                     Text {
-                        Layout.preferredWidth: panel.numberWidth
+                        Layout.preferredWidth: objectRow.list ? objectRow.list.numberWidth : 0
                         text: objectRow.typeName + " " + objectRow.number
                         font.family: BasicConstants.fonts.family
                         font.pixelSize: BasicConstants.fonts.normal
                         color: BasicConstants.colors.textSecondary
                     }
                     Text {
-                        Layout.preferredWidth: panel.nameWidth
+                        Layout.preferredWidth: objectRow.list ? objectRow.list.nameWidth : 0
                         text: objectRow.name
                         elide: Text.ElideRight
                         font.family: BasicConstants.fonts.family
