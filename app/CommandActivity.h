@@ -4,12 +4,15 @@
 
 #include <QObject>
 #include <QString>
+#include <QtQml/qqmlregistration.h>
 
 // The demo's stand-in for the application's command handlers: it listens for the commands the
 // UI command processor runs and shows the last one, and lets the page lock command groups.
 class CommandActivity : public QObject
 {
     Q_OBJECT
+    // Described for QML tools (the pages read it through DemoShell); never created in QML.
+    QML_ANONYMOUS
     Q_PROPERTY(QString lastCommandUuid READ lastCommandUuid NOTIFY commandRun)
     Q_PROPERTY(QString lastCommandName READ lastCommandName NOTIFY commandRun)
     Q_PROPERTY(QString lastCommandIcon READ lastCommandIcon NOTIFY commandRun)

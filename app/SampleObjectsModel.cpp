@@ -122,6 +122,7 @@ void SampleObjectsModel::setKind(const QString& key)
     m_kind = type->Kind();
     Reload();
     emit kindChanged();
+    emit selectedCountChanged();
 }
 
 QStringList SampleObjectsModel::kinds() const
@@ -142,7 +143,9 @@ QStringList SampleObjectsModel::kindNames() const
 
 int SampleObjectsModel::selectedCount() const
 {
-    return int(m_selected.size());
+    // Of the kind listed: the selection also holds what the view picked of other kinds.
+    return int(std::count_if(m_selected.begin(), m_selected.end(),
+                             [this](ObjectId id) { return KindOf(id) == m_kind; }));
 }
 
 void SampleObjectsModel::click(int row, int modifiers)

@@ -1,5 +1,7 @@
 #include "CommandActivity.h"
+#include "ModelingCommands.h"
 #include "DemoOptions.h"
+#include "DemoShell.h"
 #include "MarkingMenuGesture.h"
 #include "SampleObjectsModel.h"
 #include "ScreenshotTaker.h"
@@ -99,22 +101,25 @@ int main(int argc, char** argv)
 
     // Declared before the engine, which must be gone before the objects its bindings read.
     CommandActivity commandActivity;
+    ModelingCommands modelingCommands;
+    qmlRegisterSingletonInstance("Demo", 1, 0, "ModelingCommands", &modelingCommands);
     ViewControls viewControls;
+    DemoShell shell(options.page, &commandActivity, &viewControls,
+                    services->Get<Orvo::Kernel::Analysis::AnalysisService>().get());
+    qmlRegisterSingletonInstance("Demo", 1, 0, "DemoShell", &shell);
     QQmlApplicationEngine engine;
     engine.addImportPath(FromExecutable(fromBuildTree ? "../qml" : QTC_INSTALLED_QML_DIR));
     // The shell's context: what panels publish there (the hotkey handler's model) every page sees.
     services->Get<Orvo::UI::QtExtensions::ShellQmlContext>()->SetContext(engine.rootContext());
-    engine.rootContext()->setContextProperty(QStringLiteral("initialPage"), options.page);
-    engine.rootContext()->setContextProperty(QStringLiteral("commandActivity"), &commandActivity);
-    engine.rootContext()->setContextProperty(QStringLiteral("viewControls"), &viewControls);
-    engine.rootContext()->setContextProperty(QStringLiteral("analysis"),
-                                             services->Get<Orvo::Kernel::Analysis::AnalysisService>().get());
+    shell.SetShellContext(engine.rootContext());
     QObject::connect(
         &engine, &QQmlApplicationEngine::objectCreationFailed, &application,
         []() { QCoreApplication::exit(1); }, Qt::QueuedConnection);
     engine.load(QUrl(QStringLiteral("qrc:/demo/qml/Main.qml")));
     if (engine.rootObjects().isEmpty())
         return 1;
+    // The hotkey handler has loaded with the window and published its model.
+    shell.SetShellContext(engine.rootContext());
 
     auto* window = qobject_cast<QQuickWindow*>(engine.rootObjects().constFirst());
     if (!window)

@@ -847,6 +847,234 @@
         <source>Save</source>
         <translation>Save</translation>
     </message>
+    <message id="UI_COMMON_SEARCH">
+        <source>Search</source>
+        <translation>Search</translation>
+    </message>
+    <message id="UI_COMMON_NO_MATCHES">
+        <source>Nothing found</source>
+        <translation>Nothing found</translation>
+    </message>
+    <message id="UI_COMMON_SELECT_ALL">
+        <source>Select all</source>
+        <translation>Select all</translation>
+    </message>
+    <message id="UI_COMMON_NONE_SELECTED">
+        <source>None</source>
+        <translation>None</translation>
+    </message>
+    <message id="UI_COMMON_ALL_SELECTED">
+        <source>All</source>
+        <translation>All</translation>
+    </message>
+    <message id="UI_COMMON_N_SELECTED">
+        <source>%1 selected</source>
+        <translation>%1 selected</translation>
+    </message>
+    <message id="UI_SPOTLIGHT_SECTION_ANSWERS">
+        <source>Answers</source>
+        <translation>Answers</translation>
+    </message>
+    <message id="UI_SPOTLIGHT_SECTION_RECENT">
+        <source>Recent</source>
+        <translation>Recent</translation>
+    </message>
+    <message id="UI_SPOTLIGHT_SECTION_COMMANDS">
+        <source>Commands</source>
+        <translation>Commands</translation>
+    </message>
+    <message id="UI_SPOTLIGHT_SECTION_OBJECTS">
+        <source>Objects</source>
+        <translation>Objects</translation>
+    </message>
+    <message id="UI_SPOTLIGHT_SECTION_TABLES">
+        <source>Tables</source>
+        <translation>Tables</translation>
+    </message>
+    <message id="UI_SPOTLIGHT_SECTION_SETTINGS">
+        <source>Settings</source>
+        <translation>Settings</translation>
+    </message>
+    <message id="UI_SPOTLIGHT_PLACEHOLDER">
+        <source>Search commands, objects, tables and settings, or calculate with =</source>
+        <translation>Search commands, objects, tables and settings, or calculate with =</translation>
+    </message>
+    <message id="UI_SPOTLIGHT_WAITING_INPUT">
+        <source>%1 is waiting: type coordinates such as 1 2 3</source>
+        <translation>%1 is waiting: type coordinates such as 1 2 3</translation>
+    </message>
+    <message id="UI_SPOTLIGHT_NO_RECENT">
+        <source>Type to search. Your recent choices will be listed here.</source>
+        <translation>Type to search. Your recent choices will be listed here.</translation>
+    </message>
+    <message id="UI_SPOTLIGHT_ENTER_COPIES">
+        <source>Enter copies the result</source>
+        <translation>Enter copies the result</translation>
+    </message>
+    <message id="UI_SPOTLIGHT_ENTER_OFFERS">
+        <source>Enter gives it to the command</source>
+        <translation>Enter gives it to the command</translation>
+    </message>
+    <message id="UI_APP_PAGE_COMMANDS">
+        <source>Commands</source>
+        <translation>Commands</translation>
+    </message>
+    <message id="UI_APP_COMMANDS_SPOTLIGHT_TITLE">
+        <source>Spotlight</source>
+        <translation>Spotlight</translation>
+    </message>
+    <message id="UI_APP_COMMANDS_SPOTLIGHT_TEXT">
+        <source>Find any command, object, table or setting by typing a few letters of it, in any order and with typos; =2*3 calculates. Ctrl+Space opens the spotlight on every page. Run New member, then type its points here (1 2 3, Enter).</source>
+        <translation>Find any command, object, table or setting by typing a few letters of it, in any order and with typos; =2*3 calculates. Ctrl+Space opens the spotlight on every page. Run New member, then type its points here (1 2 3, Enter).</translation>
+    </message>
+    <message id="UI_APP_COMMANDS_CANCEL">
+        <source>Cancel command</source>
+        <translation>Cancel command</translation>
+    </message>
+    <message id="UI_APP_COMMANDS_LAST_INPUT">
+        <source>Took %1: %2</source>
+        <translation>Took %1: %2</translation>
+    </message>
+    <message id="UI_APP_COMMANDS_COMBOS_TITLE">
+        <source>Choosing from lists</source>
+        <translation>Choosing from lists</translation>
+    </message>
+    <message id="UI_APP_COMMANDS_KIND">
+        <source>Kind of object</source>
+        <translation>Kind of object</translation>
+    </message>
+    <message id="UI_APP_COMMANDS_OBJECT">
+        <source>Object</source>
+        <translation>Object</translation>
+    </message>
+    <message id="UI_APP_COMMANDS_LOAD_CASES">
+        <source>Load cases to combine</source>
+        <translation>Load cases to combine</translation>
+    </message>
+    <message id="UI_APP_COMMANDS_CHOSEN">
+        <source>Chosen: %1</source>
+        <translation>Chosen: %1</translation>
+    </message>
+    <message id="UI_APP_COMMANDS_SEARCH">
+        <source>Cross-sections by name</source>
+        <translation>Cross-sections by name</translation>
+    </message>
+    <message id="UI_SETTING_ROTATION_SENSITIVITY">
+        <source>Rotation sensitivity</source>
+        <translation>Rotation sensitivity</translation>
+    </message>
+    <message id="UI_SETTING_ZOOM_SENSITIVITY">
+        <source>Zoom sensitivity</source>
+        <translation>Zoom sensitivity</translation>
+    </message>
+    <message id="UI_SETTING_ZOOM_FOLLOW_CAMERA">
+        <source>Zoom along the line of sight</source>
+        <translation>Zoom along the line of sight</translation>
+    </message>
+    <message id="UI_SETTING_ZOOM_NEAREST_LIMIT">
+        <source>Nearest zoom distance</source>
+        <translation>Nearest zoom distance</translation>
+    </message>
+    <message id="UI_SETTING_ZOOM_FARTHEST_LIMIT">
+        <source>Farthest zoom distance</source>
+        <translation>Farthest zoom distance</translation>
+    </message>
+    <message id="UI_SETTING_PICKING_RADIUS">
+        <source>Object picking radius</source>
+        <translation>Object picking radius</translation>
+    </message>
+    <message id="UI_SETTING_RENDERER">
+        <source>Renderer</source>
+        <translation>Renderer</translation>
+    </message>
+    <message id="UI_SETTING_DEFAULT">
+        <source>Default</source>
+        <translation>Default</translation>
+    </message>
+    <message id="UI_COMMAND_GROUP_MODEL">
+        <source>Model</source>
+        <translation>Model</translation>
+    </message>
+    <message id="UI_COMMAND_GROUP_LOADS">
+        <source>Loads</source>
+        <translation>Loads</translation>
+    </message>
+    <message id="UI_COMMAND_GROUP_VIEW">
+        <source>View</source>
+        <translation>View</translation>
+    </message>
+    <message id="UI_COMMAND_GROUP_EDIT">
+        <source>Edit</source>
+        <translation>Edit</translation>
+    </message>
+    <message id="UI_COMMAND_GROUP_HISTORY">
+        <source>History</source>
+        <translation>History</translation>
+    </message>
+    <message id="UI_COMMAND_GROUP_FILE">
+        <source>File</source>
+        <translation>File</translation>
+    </message>
+    <message id="UI_COMMAND_NEW_NODE_SYNONYMS">
+        <source>point, joint</source>
+        <translation>point, joint</translation>
+    </message>
+    <message id="UI_COMMAND_NEW_MEMBER_SYNONYMS">
+        <source>beam, column, bar, line</source>
+        <translation>beam, column, bar, line</translation>
+    </message>
+    <message id="UI_COMMAND_NEW_SURFACE_SYNONYMS">
+        <source>slab, plate, wall, shell</source>
+        <translation>slab, plate, wall, shell</translation>
+    </message>
+    <message id="UI_COMMAND_NEW_SUPPORT_SYNONYMS">
+        <source>restraint, fixity, bearing</source>
+        <translation>restraint, fixity, bearing</translation>
+    </message>
+    <message id="UI_COMMAND_NEW_HINGE_SYNONYMS">
+        <source>release, pin</source>
+        <translation>release, pin</translation>
+    </message>
+    <message id="UI_COMMAND_SELF_WEIGHT_SYNONYMS">
+        <source>gravity, dead load</source>
+        <translation>gravity, dead load</translation>
+    </message>
+    <message id="UI_COMMAND_LOAD_COMBINATIONS_SYNONYMS">
+        <source>combos, load factors</source>
+        <translation>combos, load factors</translation>
+    </message>
+    <message id="UI_COMMAND_SHOW_RESULTS_SYNONYMS">
+        <source>analysis, calculate, deformation</source>
+        <translation>analysis, calculate, deformation</translation>
+    </message>
+    <message id="UI_COMMAND_MOVE_SYNONYMS">
+        <source>translate, shift</source>
+        <translation>translate, shift</translation>
+    </message>
+    <message id="UI_COMMAND_COPY_SYNONYMS">
+        <source>duplicate, array</source>
+        <translation>duplicate, array</translation>
+    </message>
+    <message id="UI_COMMAND_DELETE_SYNONYMS">
+        <source>remove, erase</source>
+        <translation>remove, erase</translation>
+    </message>
+    <message id="UI_COMMAND_DIVIDE_MEMBER_SYNONYMS">
+        <source>split</source>
+        <translation>split</translation>
+    </message>
+    <message id="UI_PROMPT_START_POINT">
+        <source>Start point</source>
+        <translation>Start point</translation>
+    </message>
+    <message id="UI_PROMPT_END_POINT">
+        <source>End point</source>
+        <translation>End point</translation>
+    </message>
+    <message id="UI_PROMPT_MOVE_VECTOR">
+        <source>Move by</source>
+        <translation>Move by</translation>
+    </message>
     <message id="UI_TABLE_MULTIPLE_EDITBOX_ADD">
         <source>Add</source>
         <translation>Add</translation>
@@ -972,8 +1200,20 @@
         <translation>100,000 generated members</translation>
     </message>
     <message id="UI_DEMO_TABLES_MODEL_HINT">
-        <source>A table of the structural model: every edit, paste, multi-edit, new row and deletion is one step of the undo history (Ctrl+Z, Ctrl+Y), and the model view, the properties panel and this table follow each step.</source>
-        <translation>A table of the structural model: every edit, paste, multi-edit, new row and deletion is one step of the undo history (Ctrl+Z, Ctrl+Y), and the model view, the properties panel and this table follow each step.</translation>
+        <source>The tables of the structural model, one per kind of object, in tabs by workstation (the model, its loads): open more with the + button, drag tabs to reorder them, Ctrl+PageUp and Ctrl+PageDown move between them. Every edit, paste, multi-edit and new row is one step of the undo history (Ctrl+Z, Ctrl+Y); the selected rows show in the properties panel, and an edit there shows here.</source>
+        <translation>The tables of the structural model, one per kind of object, in tabs by workstation (the model, its loads): open more with the + button, drag tabs to reorder them, Ctrl+PageUp and Ctrl+PageDown move between them. Every edit, paste, multi-edit and new row is one step of the undo history (Ctrl+Z, Ctrl+Y); the selected rows show in the properties panel, and an edit there shows here.</translation>
+    </message>
+    <message id="UI_DEMO_TABLES_INPUT">
+        <source>Model input tables</source>
+        <translation>Model input tables</translation>
+    </message>
+    <message id="UI_DEMO_TABLES_RESULTS">
+        <source>Analysis results</source>
+        <translation>Analysis results</translation>
+    </message>
+    <message id="UI_DEMO_TABLES_RESULTS_HINT">
+        <source>The results of the last analysis (run it on the Analysis page), read from the results database a hundred rows at a time as you scroll: filters and sorting work on millions of rows. Open more tables with the + button, drag tabs to reorder them, Ctrl+PageUp and Ctrl+PageDown move between them.</source>
+        <translation>The results of the last analysis (run it on the Analysis page), read from the results database a hundred rows at a time as you scroll: filters and sorting work on millions of rows. Open more tables with the + button, drag tabs to reorder them, Ctrl+PageUp and Ctrl+PageDown move between them.</translation>
     </message>
     <message id="UI_DEMO_TABLES_ROWS">
         <source>%1 of %2 rows shown</source>
@@ -1038,6 +1278,22 @@
     <message id="UI_TABLE_COLUMNS">
         <source>Columns…</source>
         <translation>Columns…</translation>
+    </message>
+    <message id="UI_TABLE_TAB_OPEN">
+        <source>Open a table</source>
+        <translation>Open a table</translation>
+    </message>
+    <message id="UI_TABLE_TAB_ALERTED">
+        <source>Some values of this table break a rule of their property</source>
+        <translation>Some values of this table break a rule of their property</translation>
+    </message>
+    <message id="UI_TABLE_NO_TAB_OPEN">
+        <source>No table is open: open one with the + button</source>
+        <translation>No table is open: open one with the + button</translation>
+    </message>
+    <message id="UI_TABLE_RESULTS_EMPTY">
+        <source>No results yet: run the analysis to fill this table</source>
+        <translation>No results yet: run the analysis to fill this table</translation>
     </message>
     <message id="UI_TABLE_SHOW_ALL_COLUMNS">
         <source>Show all columns</source>

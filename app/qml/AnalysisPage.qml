@@ -4,6 +4,7 @@ import Qml.QtComponents
 import Qml.QtBasicComponents
 import BasicComponents.Constants
 import UIComponents.Constants
+import Demo
 
 // The host's analysis of the one structural model: started here, followed by its progress bar,
 // and summarised per load case and combination once its results are written.
@@ -11,7 +12,7 @@ Item {
     id: page
 
     // The first visit analyses the model, so that there is something to see at once.
-    Component.onCompleted: if (!analysis.hasResults && !analysis.running) analysis.start()
+    Component.onCompleted: if (!DemoShell.analysis.hasResults && !DemoShell.analysis.running) DemoShell.analysis.start()
 
     component Label: Text {
         font.family: BasicConstants.fonts.family
@@ -44,7 +45,7 @@ Item {
                 Label {
                     objectName: "modelDescription"
                     Layout.fillWidth: true
-                    text: analysis.modelDescription
+                    text: DemoShell.analysis.modelDescription
                     font.bold: true
                 }
 
@@ -53,14 +54,14 @@ Item {
                     BasicButton {
                         objectName: "analyseButton"
                         text: Strings.text("UI_DEMO_ANALYSE")
-                        enabled: !analysis.running
-                        onClicked: analysis.start()
+                        enabled: !DemoShell.analysis.running
+                        onClicked: DemoShell.analysis.start()
                     }
                     BasicButton {
                         objectName: "stopButton"
                         text: Strings.text("UI_DEMO_STOP")
-                        enabled: analysis.running && !analysis.stopping
-                        onClicked: analysis.cancel()
+                        enabled: DemoShell.analysis.running && !DemoShell.analysis.stopping
+                        onClicked: DemoShell.analysis.cancel()
                     }
                     Rectangle {
                         objectName: "progressBar"
@@ -71,20 +72,20 @@ Item {
                         border.color: BasicConstants.colors.border
                         Rectangle {
                             anchors { left: parent.left; top: parent.top; bottom: parent.bottom }
-                            width: parent.width * analysis.progress
+                            width: parent.width * DemoShell.analysis.progress
                             radius: parent.radius
                             color: BasicConstants.colors.accent
                         }
                     }
                     Label {
                         Layout.fillWidth: true
-                        text: analysis.running ? analysis.stageText : analysis.statusText
+                        text: DemoShell.analysis.running ? DemoShell.analysis.stageText : DemoShell.analysis.statusText
                     }
                 }
 
                 Label {
                     Layout.fillWidth: true
-                    visible: analysis.hasResults && !analysis.resultsUpToDate
+                    visible: DemoShell.analysis.hasResults && !DemoShell.analysis.resultsUpToDate
                     text: Strings.text("UI_DEMO_RESULTS_OUT_OF_DATE")
                     color: BasicConstants.colors.error
                 }
@@ -104,13 +105,13 @@ Item {
 
                 Label {
                     Layout.fillWidth: true
-                    text: analysis.hasResults ? Strings.text("UI_DEMO_RESULTS_SUMMARY_HINT") : Strings.text("UI_DEMO_NO_RESULTS")
+                    text: DemoShell.analysis.hasResults ? Strings.text("UI_DEMO_RESULTS_SUMMARY_HINT") : Strings.text("UI_DEMO_NO_RESULTS")
                     color: BasicConstants.colors.textSecondary
                 }
 
                 SummaryRow {
                     Layout.fillWidth: true
-                    visible: analysis.hasResults
+                    visible: DemoShell.analysis.hasResults
                     header: true
                     name: Strings.text("UI_DEMO_SUMMARY_SET")
                     displacement: Strings.text("UI_DEMO_SUMMARY_DISPLACEMENT")
@@ -123,7 +124,7 @@ Item {
                     Layout.fillWidth: true
                     Layout.fillHeight: true
                     clip: true
-                    model: analysis.summary
+                    model: DemoShell.analysis.summary
                     delegate: SummaryRow {
                         required property var modelData
                         width: ListView.view.width
@@ -138,6 +139,7 @@ Item {
     }
 
     component SummaryRow: Rectangle {
+        id: summaryRow
         property bool header: false
         property string name
         property string displacement
@@ -149,10 +151,10 @@ Item {
         RowLayout {
             anchors { fill: parent; leftMargin: 8; rightMargin: 8 }
             spacing: 12
-            Label { Layout.preferredWidth: 220; text: name; font.bold: header }
-            Label { Layout.preferredWidth: 200; text: displacement; font.bold: header }
-            Label { Layout.preferredWidth: 260; text: reactions; font.bold: header }
-            Label { Layout.fillWidth: true; text: moment; font.bold: header }
+            Label { Layout.preferredWidth: 220; text: summaryRow.name; font.bold: summaryRow.header }
+            Label { Layout.preferredWidth: 200; text: summaryRow.displacement; font.bold: summaryRow.header }
+            Label { Layout.preferredWidth: 260; text: summaryRow.reactions; font.bold: summaryRow.header }
+            Label { Layout.fillWidth: true; text: summaryRow.moment; font.bold: summaryRow.header }
         }
         Rectangle {
             anchors { left: parent.left; right: parent.right; bottom: parent.bottom }

@@ -7,6 +7,8 @@ import BasicComponents.Constants
 import UIComponents.Constants
 import Orvo.QtExtensions
 import UIComponents.MarkingMenu
+import UIComponents.Spotlight
+import Demo
 
 ApplicationWindow {
     id: window
@@ -25,7 +27,8 @@ ApplicationWindow {
         { name: "properties", lcid: "UI_APP_PAGE_PROPERTIES", source: "PropertiesPage.qml" },
         { name: "tables", lcid: "UI_APP_PAGE_TABLES", source: "TablesPage.qml" },
         { name: "analysis", lcid: "UI_APP_PAGE_ANALYSIS", source: "AnalysisPage.qml" },
-        { name: "shortcuts", lcid: "UI_APP_PAGE_SHORTCUTS", source: "ShortcutsPage.qml" }
+        { name: "shortcuts", lcid: "UI_APP_PAGE_SHORTCUTS", source: "ShortcutsPage.qml" },
+        { name: "commands", lcid: "UI_APP_PAGE_COMMANDS", source: "CommandsPage.qml" }
     ]
 
     function pageIndex(name) {
@@ -45,6 +48,16 @@ ApplicationWindow {
     // The application's marking menu: it opens over whichever view asks for it.
     MarkingMenu {
         objectName: "markingMenu"
+    }
+
+    // The spotlight search over every page (Ctrl+Space).
+    Spotlight {
+        objectName: "spotlight"
+        parent: window.contentItem
+        z: 100
+        width: Math.min(620, window.width - 40)
+        anchors.horizontalCenter: parent.horizontalCenter
+        y: 60
     }
 
     header: Rectangle {
@@ -88,9 +101,10 @@ ApplicationWindow {
             Layout.fillHeight: true
             Layout.preferredWidth: 190
             model: window.pages
-            currentIndex: window.pageIndex(initialPage)
+            currentIndex: window.pageIndex(DemoShell.initialPage)
             clip: true
             delegate: Rectangle {
+                id: pageEntry
                 required property var modelData
                 required property int index
                 width: ListView.view.width
@@ -100,7 +114,7 @@ ApplicationWindow {
                 Text {
                     anchors { fill: parent; leftMargin: 14 }
                     verticalAlignment: Text.AlignVCenter
-                    text: Strings.text(modelData.lcid)
+                    text: Strings.text(pageEntry.modelData.lcid)
                     font.family: BasicConstants.fonts.family
                     font.pixelSize: BasicConstants.fonts.normal
                     color: BasicConstants.colors.text
@@ -109,7 +123,7 @@ ApplicationWindow {
                     id: mouse
                     anchors.fill: parent
                     hoverEnabled: true
-                    onClicked: pageList.currentIndex = index
+                    onClicked: pageEntry.ListView.view.currentIndex = pageEntry.index
                 }
             }
         }
@@ -136,8 +150,9 @@ ApplicationWindow {
         color: BasicConstants.colors.panelHeader
         Text {
             anchors { left: parent.left; leftMargin: 10; verticalCenter: parent.verticalCenter }
-            text: commandActivity.runCount > 0
-                  ? Strings.text("UI_APP_STATUS_LAST_COMMAND").arg(commandActivity.lastCommandName).arg(commandActivity.lastOrigin)
+            text: DemoShell.commandActivity.runCount > 0
+                  ? Strings.text("UI_APP_STATUS_LAST_COMMAND").arg(DemoShell.commandActivity.lastCommandName)
+                                                             .arg(DemoShell.commandActivity.lastOrigin)
                   : Strings.text("UI_APP_STATUS_READY")
             font.family: BasicConstants.fonts.family
             font.pixelSize: BasicConstants.fonts.small
@@ -148,7 +163,7 @@ ApplicationWindow {
             objectName: "viewStatus"
             anchors { right: parent.right; rightMargin: 10; verticalCenter: parent.verticalCenter }
             visible: window.pages[pageStack.currentIndex].name === "model"
-            text: viewControls.pointerText + "    " + viewControls.scaleText
+            text: DemoShell.viewControls.pointerText + "    " + DemoShell.viewControls.scaleText
             font.family: BasicConstants.fonts.family
             font.pixelSize: BasicConstants.fonts.small
             color: BasicConstants.colors.textSecondary

@@ -6,6 +6,7 @@ import Qml.QtBasicComponents
 import BasicComponents.Constants
 import UIComponents.Constants
 import Orvo.QtExtensions
+import Demo
 
 // The marking menu at work: hold the secondary button over the model view, choose a command,
 // and see it run. The menu is the application's own (Main.qml).
@@ -55,28 +56,42 @@ Item {
                     }
                 }
 
+                // The frame's nodes, three bays by three levels, and its supports: each entry is
+                // where the mark is centred.
                 Repeater {
-                    model: 9
+                    model: {
+                        const points = []
+                        for (let i = 0; i < 9; ++i)
+                            points.push(Qt.point(frame.x + (i % 3) * frame.bay, frame.y + Math.floor(i / 3) * frame.storey))
+                        return points
+                    }
                     Rectangle {
-                        required property int index
+                        id: node
+                        required property point modelData
                         width: 9
                         height: 9
                         radius: 4.5
                         color: "#ffffff"
-                        x: frame.x + (index % 3) * frame.bay - width / 2
-                        y: frame.y + Math.floor(index / 3) * frame.storey - height / 2
+                        x: node.modelData.x - width / 2
+                        y: node.modelData.y - height / 2
                     }
                 }
 
                 Repeater {
-                    model: 3
+                    model: {
+                        const points = []
+                        for (let i = 0; i < 3; ++i)
+                            points.push(Qt.point(frame.x + i * frame.bay, frame.y + frame.height + 2))
+                        return points
+                    }
                     Text {
-                        required property int index
+                        id: support
+                        required property point modelData
                         text: "▲"
                         color: "#c7d3e6"
                         font.pixelSize: 18
-                        x: frame.x + index * frame.bay - width / 2
-                        y: frame.y + frame.height + 2
+                        x: support.modelData.x - width / 2
+                        y: support.modelData.y
                     }
                 }
 
@@ -121,40 +136,40 @@ Item {
                             Layout.preferredHeight: 36
                             radius: 4
                             color: UIComponentsConstants.markingMenuSlice
-                            visible: commandActivity.lastCommandIcon !== ""
+                            visible: DemoShell.commandActivity.lastCommandIcon !== ""
                             Image {
                                 anchors.centerIn: parent
                                 width: 26
                                 height: 26
                                 sourceSize.width: 26
                                 sourceSize.height: 26
-                                source: commandActivity.lastCommandIcon
+                                source: DemoShell.commandActivity.lastCommandIcon
                             }
                         }
                         BasicLabel {
                             objectName: "lastCommandName"
                             Layout.fillWidth: true
-                            text: commandActivity.runCount > 0 ? commandActivity.lastCommandName
+                            text: DemoShell.commandActivity.runCount > 0 ? DemoShell.commandActivity.lastCommandName
                                                                : Strings.text("UI_APP_MARKING_MENU_NO_COMMAND")
                             font.pixelSize: BasicConstants.fonts.title
-                            font.bold: commandActivity.runCount > 0
+                            font.bold: DemoShell.commandActivity.runCount > 0
                         }
                     }
                     BasicLabel {
                         Layout.fillWidth: true
-                        visible: commandActivity.runCount > 0
-                        text: Strings.text("UI_APP_MARKING_MENU_PARAMETERS").arg(commandActivity.lastParameters || "–")
+                        visible: DemoShell.commandActivity.runCount > 0
+                        text: Strings.text("UI_APP_MARKING_MENU_PARAMETERS").arg(DemoShell.commandActivity.lastParameters || "–")
                         color: BasicConstants.colors.textSecondary
                     }
                     BasicLabel {
                         Layout.fillWidth: true
-                        visible: commandActivity.runCount > 0
-                        text: Strings.text("UI_APP_MARKING_MENU_ORIGIN").arg(commandActivity.lastOrigin)
+                        visible: DemoShell.commandActivity.runCount > 0
+                        text: Strings.text("UI_APP_MARKING_MENU_ORIGIN").arg(DemoShell.commandActivity.lastOrigin)
                         color: BasicConstants.colors.textSecondary
                     }
                     BasicLabel {
                         Layout.fillWidth: true
-                        text: Strings.text("UI_APP_MARKING_MENU_COMMAND_COUNT").arg(commandActivity.runCount)
+                        text: Strings.text("UI_APP_MARKING_MENU_COMMAND_COUNT").arg(DemoShell.commandActivity.runCount)
                         color: BasicConstants.colors.textSecondary
                     }
                     Item { Layout.fillHeight: true }
@@ -165,8 +180,8 @@ Item {
                 Layout.fillWidth: true
                 text: Strings.text("UI_APP_MARKING_MENU_LOCK_MODEL")
                 onToggled: {
-                    commandActivity.setGroupEnabled("model", !checked)
-                    commandActivity.setGroupEnabled("edit", !checked)
+                    DemoShell.commandActivity.setGroupEnabled("model", !checked)
+                    DemoShell.commandActivity.setGroupEnabled("edit", !checked)
                 }
             }
 

@@ -81,6 +81,7 @@ BasicPanel {
             model: objects
             boundsBehavior: Flickable.StopAtBounds
             delegate: Rectangle {
+                id: objectRow
                 required property int index
                 required property int number
                 required property string typeName
@@ -90,7 +91,7 @@ BasicPanel {
 
                 width: ListView.view.width
                 height: UIComponentsConstants.tableRowHeight
-                color: selected ? UIComponentsConstants.tableSelection
+                color: objectRow.selected ? UIComponentsConstants.tableSelection
                                 : rowMouse.containsMouse ? BasicConstants.colors.hover : BasicConstants.colors.panel
 
                 RowLayout {
@@ -98,14 +99,14 @@ BasicPanel {
                     spacing: BasicConstants.sizes.margin
                     Text {
                         Layout.preferredWidth: panel.numberWidth
-                        text: typeName + " " + number
+                        text: objectRow.typeName + " " + objectRow.number
                         font.family: BasicConstants.fonts.family
                         font.pixelSize: BasicConstants.fonts.normal
                         color: BasicConstants.colors.textSecondary
                     }
                     Text {
                         Layout.preferredWidth: panel.nameWidth
-                        text: name
+                        text: objectRow.name
                         elide: Text.ElideRight
                         font.family: BasicConstants.fonts.family
                         font.pixelSize: BasicConstants.fonts.normal
@@ -113,7 +114,7 @@ BasicPanel {
                     }
                     Text {
                         Layout.fillWidth: true
-                        text: summary
+                        text: objectRow.summary
                         elide: Text.ElideRight
                         font.family: BasicConstants.fonts.family
                         font.pixelSize: BasicConstants.fonts.normal

@@ -2,21 +2,23 @@ import QtQuick
 import QtQuick.Controls.Basic
 import QtQuick.Layouts
 import Qml.QtComponents
+import BasicComponents.Constants
 import Orvo.QtExtensions
 import UIComponents.GraphicView
 import UIComponents.PropertiesPanel
 import Demo
 
 // The application's workspace on the one structural model: the model view in the centre, the
-// properties panel beside it, the model's objects below. A selection made in any of them shows
-// in all three; holding the secondary button over the view opens the marking menu.
+// properties panel beside it, the model's objects and the input tables below. A selection made in
+// the view, the objects list or the properties panel shows in all three; holding the secondary
+// button over the view opens the marking menu.
 Item {
     id: workspace
 
-    // The application's bar of the model view (viewControls, made by the application) follows
+    // The application's bar of the model view (made by the application) follows
     // this view.
     Binding {
-        target: viewControls
+        target: DemoShell.viewControls
         property: "viewportId"
         value: graphicView.viewport.viewportId
     }
@@ -36,7 +38,7 @@ Item {
 
                 ViewToolbar {
                     Layout.fillWidth: true
-                    controls: viewControls
+                    controls: DemoShell.viewControls
                 }
 
                 // What the view does not take (the secondary button) falls through to the area,
@@ -54,10 +56,61 @@ Item {
                 }
             }
 
-            ModelObjectsPanel {
-                objectName: "modelObjects"
-                SplitView.preferredHeight: 230
-                SplitView.minimumHeight: 120
+            // The panels below the view, one at a time.
+            ColumnLayout {
+                SplitView.preferredHeight: 260
+                SplitView.minimumHeight: 150
+                spacing: 0
+
+                TabBar {
+                    id: bottomTabs
+                    objectName: "bottomPanels"
+                    Layout.fillWidth: true
+                    font.family: BasicConstants.fonts.family
+                    font.pixelSize: BasicConstants.fonts.normal
+                    // The shown tab has the panel's colour, the others the colour of panel headers.
+                    palette.window: BasicConstants.colors.panel
+                    palette.windowText: BasicConstants.colors.text
+                    palette.dark: BasicConstants.colors.panelHeader
+                    palette.brightText: BasicConstants.colors.textSecondary
+                    // The tables are made when first shown: their 100,000 generated rows are
+                    // not needed before.
+                    onCurrentIndexChanged: {
+                        if (currentItem === tablesTab)
+                            tablesPanel.active = true
+                    }
+
+                    TabButton {
+                        objectName: "objectsTab"
+                        width: implicitWidth
+                        text: Strings.text("UI_APP_OBJECTS_TITLE")
+                    }
+                    TabButton {
+                        id: tablesTab
+                        objectName: "tablesTab"
+                        width: implicitWidth
+                        text: Strings.text("UI_APP_PAGE_TABLES")
+                    }
+                }
+
+                StackLayout {
+                    Layout.fillWidth: true
+                    Layout.fillHeight: true
+                    currentIndex: bottomTabs.currentIndex
+
+                    ModelObjectsPanel {
+                        objectName: "modelObjects"
+                        // The tab names it.
+                        title: ""
+                    }
+
+                    Loader {
+                        id: tablesPanel
+                        objectName: "tablesPanel"
+                        active: false
+                        source: "TablesPage.qml"
+                    }
+                }
             }
         }
 

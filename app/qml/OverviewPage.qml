@@ -8,6 +8,7 @@ import UIComponents.Constants
 import UIComponents.MarkingMenu
 import UIComponents.Utilities
 import Orvo.QtExtensions
+import Demo
 
 // The front door: what the component library offers, each part with a small live piece of it
 // and the way to its page, and what the module holds.
@@ -49,6 +50,7 @@ Item {
         property string pageName
         property alias description: descriptionText.text
         default property alias miniature: miniatureArea.data
+        signal pageLinkClicked(string name)
 
         Layout.fillWidth: true
         Layout.fillHeight: true
@@ -86,7 +88,7 @@ Item {
                     anchors.fill: parent
                     hoverEnabled: true
                     cursorShape: Qt.PointingHandCursor
-                    onClicked: page.pageRequested(card.pageName)
+                    onClicked: card.pageLinkClicked(card.pageName)
                 }
             }
         }
@@ -152,6 +154,7 @@ Item {
                 rowSpacing: 16
 
                 PartCard {
+                    onPageLinkClicked: name => page.pageRequested(name)
                     title: Strings.text("UI_APP_PAGE_VALUE_ENTRY")
                     pageName: "valueentry"
                     description: Strings.text("UI_APP_OVERVIEW_VALUE_ENTRY")
@@ -166,6 +169,7 @@ Item {
                 }
 
                 PartCard {
+                    onPageLinkClicked: name => page.pageRequested(name)
                     title: Strings.text("UI_APP_PAGE_MARKING_MENU")
                     pageName: "markingmenu"
                     description: Strings.text("UI_APP_OVERVIEW_MARKING_MENU")
@@ -190,18 +194,21 @@ Item {
                 }
 
                 PartCard {
+                    onPageLinkClicked: name => page.pageRequested(name)
                     title: Strings.text("UI_APP_PAGE_PROPERTIES")
                     pageName: "properties"
                     description: Strings.text("UI_APP_OVERVIEW_PROPERTIES")
                 }
 
                 PartCard {
+                    onPageLinkClicked: name => page.pageRequested(name)
                     title: Strings.text("UI_APP_PAGE_TABLES")
                     pageName: "tables"
                     description: Strings.text("UI_APP_OVERVIEW_TABLES")
                 }
 
                 PartCard {
+                    onPageLinkClicked: name => page.pageRequested(name)
                     title: Strings.text("UI_APP_PAGE_SHORTCUTS")
                     pageName: "shortcuts"
                     description: Strings.text("UI_APP_OVERVIEW_SHORTCUTS")
@@ -210,21 +217,22 @@ Item {
                     Column {
                         spacing: 3
                         Repeater {
-                            model: hotkeyHandlerModel
+                            model: DemoShell.hotkeyHandlerModel
                             delegate: Row {
+                                id: binding
                                 required property int index
                                 required property string cmdUuid
                                 required property string cmdShortcut
-                                visible: index < c_shownBindings
+                                visible: binding.index < binding.c_shownBindings
                                 spacing: 10
                                 readonly property int c_shownBindings: 5
                                 KeyboardShortcutText {
                                     width: 90
-                                    sequence: cmdShortcut
+                                    sequence: binding.cmdShortcut
                                     color: BasicConstants.colors.text
                                 }
                                 Text {
-                                    text: commands.commandName(cmdUuid)
+                                    text: commands.commandName(binding.cmdUuid)
                                     font.family: BasicConstants.fonts.family
                                     font.pixelSize: BasicConstants.fonts.small
                                     color: BasicConstants.colors.textSecondary
@@ -235,6 +243,7 @@ Item {
                 }
 
                 PartCard {
+                    onPageLinkClicked: name => page.pageRequested(name)
                     title: Strings.text("UI_APP_OVERVIEW_CALCULATOR")
                     pageName: "valueentry"
                     description: Strings.text("UI_APP_OVERVIEW_CALCULATOR_TEXT")
@@ -244,14 +253,20 @@ Item {
                             model: [{ typed: "2*500mm", unit: "m" }, { typed: "5kN*2m", unit: "kNm" },
                                     { typed: "5kN", unit: "m" }]
                             delegate: Text {
+                                id: calculation
                                 required property var modelData
+                                // As the page writes numbers; reading the decimal mark makes the
+                                // text follow a change of the number format.
+                                function formatted(number) {
+                                    return NumberFormat.decimalMark.length > 0 ? NumberFormat.toEditValue(number) : ""
+                                }
                                 FieldExpression {
                                     id: example
-                                    expression: modelData.typed
-                                    unit: modelData.unit
+                                    expression: calculation.modelData.typed
+                                    unit: calculation.modelData.unit
                                 }
-                                text: "=" + modelData.typed + "  (" + modelData.unit + ")  "
-                                      + (example.valid ? "= " + page.formatted(example.value) + " " + modelData.unit
+                                text: "=" + calculation.modelData.typed + "  (" + calculation.modelData.unit + ")  "
+                                      + (example.valid ? "= " + calculation.formatted(example.value) + " " + calculation.modelData.unit
                                                        : example.message)
                                 color: example.valid ? BasicConstants.colors.text : BasicConstants.colors.error
                                 font.family: BasicConstants.fonts.family
@@ -265,5 +280,10 @@ Item {
     }
 
     // The controller replaces its configuration without a signal once it is complete.
-    Component.onCompleted: Qt.callLater(() => miniatureRing.sectionConfig = markingMenu.mmConfig.topSection)
+    Component.onCompleted: showMenuTimer.start()
+    Timer {
+        id: showMenuTimer
+        interval: 0
+        onTriggered: miniatureRing.sectionConfig = markingMenu.mmConfig.topSection
+    }
 }

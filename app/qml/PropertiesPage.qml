@@ -63,6 +63,7 @@ Item {
                     model: objects
                     boundsBehavior: Flickable.StopAtBounds
                     delegate: Rectangle {
+                        id: objectRow
                         required property int index
                         required property int number
                         required property string typeName
@@ -73,7 +74,7 @@ Item {
 
                         width: ListView.view.width
                         height: 30
-                        color: selected ? BasicConstants.colors.selection
+                        color: objectRow.selected ? BasicConstants.colors.selection
                                         : rowMouse.containsMouse ? BasicConstants.colors.hover : "transparent"
 
                         RowLayout {
@@ -83,28 +84,28 @@ Item {
                                 Layout.preferredWidth: 12
                                 Layout.preferredHeight: 12
                                 radius: 6
-                                color: objectColor
+                                color: objectRow.objectColor
                                 border.color: BasicConstants.colors.border
                             }
                             Text {
                                 Layout.preferredWidth: 110
-                                text: typeName + " " + number
+                                text: objectRow.typeName + " " + objectRow.number
                                 font.family: BasicConstants.fonts.family
                                 font.pixelSize: BasicConstants.fonts.normal
                                 color: BasicConstants.colors.textSecondary
                             }
                             Text {
                                 Layout.preferredWidth: 130
-                                text: name
+                                text: objectRow.name
                                 elide: Text.ElideRight
                                 font.family: BasicConstants.fonts.family
                                 font.pixelSize: BasicConstants.fonts.normal
-                                font.bold: selected
+                                font.bold: objectRow.selected
                                 color: BasicConstants.colors.text
                             }
                             Text {
                                 Layout.fillWidth: true
-                                text: summary
+                                text: objectRow.summary
                                 elide: Text.ElideRight
                                 font.family: BasicConstants.fonts.family
                                 font.pixelSize: BasicConstants.fonts.normal

@@ -7,6 +7,7 @@ import QtQuick.Controls.Basic as Controls
 import UIComponents.Common
 import UIComponents.Utilities
 import Orvo.QtExtensions
+import Demo
 
 // Keyboard shortcuts at work: the application's commands with their shortcuts (record a new
 // one by pressing it; a shortcut another command has is moved only when the user agrees), what
@@ -18,6 +19,9 @@ Item {
     CommandListModel {
         id: commands
     }
+
+    readonly property bool shortcutsEnabled: DemoShell.hotkeyHandlerModel !== null
+                                             && DemoShell.hotkeyHandlerModel.shortcutsEnabled
 
     CommandHistoryModel {
         id: runLog
@@ -71,6 +75,7 @@ Item {
                     model: commands
                     currentIndex: 0
                     delegate: Rectangle {
+                        id: commandRow
                         required property int index
                         required property string name
                         required property string shortcut
@@ -89,15 +94,15 @@ Item {
                                 Layout.preferredHeight: BasicConstants.sizes.iconSize
                                 sourceSize.width: BasicConstants.sizes.iconSize
                                 sourceSize.height: BasicConstants.sizes.iconSize
-                                source: icon
+                                source: commandRow.icon
                             }
                             BasicLabel {
                                 Layout.fillWidth: true
-                                text: name
-                                enabled: commandEnabled
+                                text: commandRow.name
+                                enabled: commandRow.commandEnabled
                             }
                             Rectangle {
-                                visible: shortcut !== ""
+                                visible: commandRow.shortcut !== ""
                                 Layout.preferredWidth: shortcutText.implicitWidth + 12
                                 Layout.preferredHeight: 18
                                 radius: BasicConstants.sizes.radius
@@ -106,7 +111,7 @@ Item {
                                 KeyboardShortcutText {
                                     id: shortcutText
                                     anchors.centerIn: parent
-                                    sequence: shortcut
+                                    sequence: commandRow.shortcut
                                     color: BasicConstants.colors.text
                                 }
                             }
@@ -115,7 +120,7 @@ Item {
                             id: rowMouse
                             anchors.fill: parent
                             hoverEnabled: true
-                            onClicked: commandList.currentIndex = index
+                            onClicked: commandRow.ListView.view.currentIndex = commandRow.index
                         }
                     }
                 }
@@ -208,14 +213,14 @@ Item {
                             Layout.preferredWidth: 12
                             Layout.preferredHeight: 12
                             radius: 6
-                            color: hotkeyHandlerModel.shortcutsEnabled ? BasicConstants.colors.success
+                            color: page.shortcutsEnabled ? BasicConstants.colors.success
                                                                        : BasicConstants.colors.error
                         }
                         BasicLabel {
                             objectName: "shortcutsState"
                             Layout.fillWidth: true
                             wrapMode: Text.WordWrap
-                            text: hotkeyHandlerModel.shortcutsEnabled ? Strings.text("UI_APP_SHORTCUTS_ON")
+                            text: page.shortcutsEnabled ? Strings.text("UI_APP_SHORTCUTS_ON")
                                                                       : Strings.text("UI_APP_SHORTCUTS_OFF")
                         }
                     }
@@ -243,8 +248,9 @@ Item {
                     Controls.ScrollBar.vertical: Controls.ScrollBar {
                         policy: bindingsList.contentHeight > bindingsList.height ? Controls.ScrollBar.AlwaysOn : Controls.ScrollBar.AlwaysOff
                     }
-                    model: hotkeyHandlerModel
+                    model: DemoShell.hotkeyHandlerModel
                     delegate: RowLayout {
+                        id: bindingRow
                         required property int index
                         required property string cmdUuid
                         required property string cmdShortcut
@@ -253,12 +259,12 @@ Item {
                         spacing: 8
                         KeyboardShortcutText {
                             Layout.preferredWidth: 100
-                            sequence: cmdShortcut
+                            sequence: bindingRow.cmdShortcut
                             color: BasicConstants.colors.text
                         }
                         BasicLabel {
                             Layout.fillWidth: true
-                            text: commands.commandName(cmdUuid)
+                            text: commands.commandName(bindingRow.cmdUuid)
                             font.pixelSize: BasicConstants.fonts.small
                         }
                     }
@@ -291,6 +297,7 @@ Item {
                     }
                     model: runLog
                     delegate: RowLayout {
+                        id: logEntry
                         required property string name
                         required property string origin
                         required property date time
@@ -298,13 +305,13 @@ Item {
                         height: 20
                         spacing: 8
                         BasicLabel {
-                            text: Qt.formatTime(time, "hh:mm:ss")
+                            text: Qt.formatTime(logEntry.time, "hh:mm:ss")
                             font.pixelSize: BasicConstants.fonts.small
                             color: BasicConstants.colors.textSecondary
                         }
                         BasicLabel {
                             Layout.fillWidth: true
-                            text: Strings.text("UI_APP_SHORTCUTS_LOG_ENTRY").arg(name).arg(origin)
+                            text: Strings.text("UI_APP_SHORTCUTS_LOG_ENTRY").arg(logEntry.name).arg(logEntry.origin)
                         }
                     }
                 }

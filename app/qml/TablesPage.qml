@@ -4,26 +4,26 @@ import Qml.QtComponents
 import Qml.QtBasicComponents
 import BasicComponents.Constants
 import UIComponents.Tables
+import UIComponents.PropertiesPanel
 import Demo
 
-// One table view, two kinds of feeder. First 100,000 structural members fed by the demo's table
-// controller: filter in the bar under the titles ("<=5", "[2;4]", "S355"; a filter applies on
-// Enter), sort by clicking a title, resize and drag titles, select like in a spreadsheet, type into
-// cells (numbers may be expressions with units), add members in the "*" line, copy and paste with
-// Ctrl+C / Ctrl+V, and edit every selected cell at once in the box above the table. Then each input
-// table of the host's structural model, where every change is a step of the undo history.
+// The host's table panels over the one structural model: the input tables of every kind of
+// object beside the properties panel (the selected rows show there, and an edit in either shows
+// in the other), the results tables of the last analysis, and 100,000 generated members fed by
+// the demo's own controller. A self-contained page: everything it shows comes from the host.
 Item {
     id: page
 
     StructuralMembersFeeder { id: feeder }
 
-    TableInput_Cpp {
-        id: modelTable
-        objectName: "modelTable"
-        visible: false
+    QtObject {
+        id: d
+        readonly property int inputTables: 0
+        readonly property int resultTables: 1
+        readonly property int generated: 2
+        readonly property int propertiesWidth: 340
+        readonly property var hints: ["UI_DEMO_TABLES_MODEL_HINT", "UI_DEMO_TABLES_RESULTS_HINT", "UI_DEMO_TABLES_HINT"]
     }
-
-    readonly property bool showsModel: source.currentIndex > 0
 
     ColumnLayout {
         anchors { fill: parent; margins: 12 }
@@ -36,65 +36,66 @@ Item {
                 id: source
                 objectName: "tableSource"
                 Layout.preferredWidth: 240
-                model: [Strings.text("UI_DEMO_TABLES_GENERATED"), ...modelTable.tableLabels]
-                onActivated: index => {
-                    if (index > 0) {
-                        modelTable.tableId = modelTable.tableIds[index - 1]
-                    }
-                }
+                model: [Strings.text("UI_DEMO_TABLES_INPUT"), Strings.text("UI_DEMO_TABLES_RESULTS"),
+                    Strings.text("UI_DEMO_TABLES_GENERATED")]
             }
         }
 
         BasicLabel {
             Layout.fillWidth: true
-            text: Strings.text(page.showsModel ? "UI_DEMO_TABLES_MODEL_HINT" : "UI_DEMO_TABLES_HINT")
+            text: Strings.text(d.hints[source.currentIndex])
             wrapMode: Text.WordWrap
             elide: Text.ElideNone
             color: BasicConstants.colors.textSecondary
         }
 
-        // A table view per feeder, so that each keeps its own filters, layout and place.
         StackLayout {
             Layout.fillWidth: true
             Layout.fillHeight: true
-            currentIndex: page.showsModel ? 1 : 0
+            currentIndex: source.currentIndex
+
+            RowLayout {
+                spacing: 8
+                TableInput {
+                    id: inputPanel
+                    objectName: "inputTables"
+                    configurationKey: "DemoTableInput"
+                    Layout.fillWidth: true
+                    Layout.fillHeight: true
+                    focus: source.currentIndex === d.inputTables
+                }
+                PropertiesPanel {
+                    objectName: "tablesPropertiesPanel"
+                    Layout.preferredWidth: d.propertiesWidth
+                    Layout.fillHeight: true
+                }
+            }
+
+            TableResult {
+                id: resultPanel
+                objectName: "resultTables"
+                configurationKey: "DemoTableResult"
+                focus: source.currentIndex === d.resultTables
+            }
 
             ContentTable {
                 id: members
                 objectName: "membersTable"
                 contentModel: feeder.model
-                focus: !page.showsModel
-            }
-
-            ContentTable {
-                objectName: "modelTableView"
-                contentModel: modelTable.contentModel
-                focus: page.showsModel
+                focus: source.currentIndex === d.generated
             }
         }
 
-        RowLayout {
-            spacing: 16
-            BasicLabel {
-                objectName: "membersStatus"
-                text: page.showsModel
-                      ? Strings.text("UI_DEMO_TABLES_ROWS").arg(modelTable.contentModel.contentFilterModel.rowCountSubmitted)
-                            .arg(modelTable.contentModel.rowCountSubmitted)
-                      : Strings.text("UI_DEMO_TABLES_STATUS").arg(feeder.model.contentFilterModel.rowCountSubmitted)
-                            .arg(feeder.model.rowCountSubmitted)
-            }
-            // Why the host did not take the last edit in full.
-            BasicLabel {
-                objectName: "modelTableMessage"
-                Layout.fillWidth: true
-                visible: page.showsModel && modelTable.message.length > 0
-                text: modelTable.message
-                color: BasicConstants.colors.error
-            }
+        BasicLabel {
+            objectName: "membersStatus"
+            readonly property TableContentModel shown: source.currentIndex === d.inputTables ? inputPanel.contentModel
+                                                     : source.currentIndex === d.resultTables ? resultPanel.contentModel
+                                                     : feeder.model
+            text: Strings.text("UI_DEMO_TABLES_ROWS").arg(shown.contentFilterModel.rowCountSubmitted).arg(shown.rowCountSubmitted)
         }
     }
 
-    // Start with something to see: a selection, so the multi-edit box has work to do.
+    // Start the generated table with something to see: a selection, so the multi-edit box has work.
     Component.onCompleted: {
         const table = feeder.model.contentFilterModel
         table.selectionModel.select(table.index(2, 4), TableSelectionModel.CleanSelect)

@@ -14,14 +14,10 @@ Item {
     id: page
 
     // The edit text of a number; reading the decimal mark makes the bindings that show such text
-    // follow a change of the number format.
+    // follow a change of the number format. The inline components below, which cannot reach this
+    // page, carry it too.
     function formatted(number) {
         return NumberFormat.decimalMark.length > 0 ? NumberFormat.toEditValue(number) : ""
-    }
-
-    function stored(value, unit) {
-        return isNaN(value) ? Strings.text("UI_VALUE_ENTRY_NONE")
-                              : formatted(value) + (unit ? " " + unit : "")
     }
 
     component Caption: Text {
@@ -42,6 +38,12 @@ Item {
         property alias maximum: numericInput.maximum
         spacing: 16
 
+        function stored(value, unit) {
+            return isNaN(value) ? Strings.text("UI_VALUE_ENTRY_NONE")
+                                : (NumberFormat.decimalMark.length > 0 ? NumberFormat.toEditValue(value) : "")
+                                  + (unit ? " " + unit : "")
+        }
+
         Caption {
             id: captionText
             Layout.preferredWidth: 200
@@ -57,7 +59,7 @@ Item {
         Caption {
             Layout.alignment: Qt.AlignTop
             Layout.topMargin: 5
-            text: Strings.text("UI_VALUE_ENTRY_STORED") + ": " + page.stored(numericInput.value, numericInput.unit)
+            text: Strings.text("UI_VALUE_ENTRY_STORED") + ": " + formField.stored(numericInput.value, numericInput.unit)
             color: BasicConstants.colors.textSecondary
         }
     }
@@ -164,15 +166,19 @@ Item {
                     spacing: 6
 
                     component ExampleRow: RowLayout {
+                        id: exampleRow
                         property alias typed: typedText.text
                         property alias unit: unitText.text
                         property alias result: resultText.text
                         property alias resultColor: resultText.color
                         property bool heading: false
                         spacing: 24
-                        Caption { id: typedText; Layout.preferredWidth: 260; font.bold: heading; font.family: heading ? BasicConstants.fonts.family : "DejaVu Sans Mono" }
-                        Caption { id: unitText; Layout.preferredWidth: 110; font.bold: heading; color: BasicConstants.colors.textSecondary }
-                        Caption { id: resultText; Layout.fillWidth: true; font.bold: heading; font.family: heading ? BasicConstants.fonts.family : "DejaVu Sans Mono" }
+                        function formatted(number) {
+                            return NumberFormat.decimalMark.length > 0 ? NumberFormat.toEditValue(number) : ""
+                        }
+                        Caption { id: typedText; Layout.preferredWidth: 260; font.bold: exampleRow.heading; font.family: exampleRow.heading ? BasicConstants.fonts.family : "DejaVu Sans Mono" }
+                        Caption { id: unitText; Layout.preferredWidth: 110; font.bold: exampleRow.heading; color: BasicConstants.colors.textSecondary }
+                        Caption { id: resultText; Layout.fillWidth: true; font.bold: exampleRow.heading; font.family: exampleRow.heading ? BasicConstants.fonts.family : "DejaVu Sans Mono" }
                     }
 
                     ExampleRow {
@@ -198,19 +204,20 @@ Item {
                             { typed: "2*(3", unit: "" }
                         ]
                         delegate: ExampleRow {
+                            id: example
                             required property var modelData
-                            typed: "=" + modelData.typed
-                            unit: modelData.unit.length > 0 ? modelData.unit : "\u2013"
+                            typed: "=" + example.modelData.typed
+                            unit: example.modelData.unit.length > 0 ? example.modelData.unit : "\u2013"
                             result: exampleExpression.valid
-                                    ? "= " + page.formatted(exampleExpression.value)
-                                      + (modelData.unit.length > 0 ? " " + modelData.unit : "")
+                                    ? "= " + example.formatted(exampleExpression.value)
+                                      + (example.modelData.unit.length > 0 ? " " + example.modelData.unit : "")
                                     : exampleExpression.message
                             resultColor: exampleExpression.valid ? BasicConstants.colors.text : BasicConstants.colors.error
 
                             FieldExpression {
                                 id: exampleExpression
-                                expression: modelData.typed
-                                unit: modelData.unit
+                                expression: example.modelData.typed
+                                unit: example.modelData.unit
                             }
                         }
                     }

@@ -33,8 +33,9 @@ Rectangle {
                 { preset: ViewControls.Side, lcid: "UI_APP_VIEW_SIDE" }
             ]
             BasicButton {
+                id: presetButton
                 required property var modelData
-                text: Strings.text(modelData.lcid)
+                text: Strings.text(presetButton.modelData.lcid)
                 onClicked: toolbar.controls.showPreset(modelData.preset)
             }
         }
@@ -70,9 +71,9 @@ Rectangle {
         }
         BasicButton {
             objectName: "runAnalysis"
-            text: analysis.running ? Strings.text("UI_APP_VIEW_ANALYSING") : Strings.text("UI_APP_VIEW_ANALYSE")
-            enabled: !analysis.running
-            onClicked: analysis.start()
+            text: DemoShell.analysis.running ? Strings.text("UI_APP_VIEW_ANALYSING") : Strings.text("UI_APP_VIEW_ANALYSE")
+            enabled: !DemoShell.analysis.running
+            onClicked: DemoShell.analysis.start()
         }
     }
 

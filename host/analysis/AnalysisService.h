@@ -8,6 +8,7 @@
 #include <QString>
 #include <QTemporaryDir>
 #include <QVariantList>
+#include <QtQml/qqmlregistration.h>
 #include <atomic>
 #include <memory>
 #include <vector>
@@ -39,6 +40,8 @@ namespace Orvo::Kernel::Analysis {
 class HOSTKIT_EXPORT AnalysisService : public QObject
 {
     Q_OBJECT
+    // Described for QML tools (the documents that bind to it); a service, never created in QML.
+    QML_ANONYMOUS
     Q_PROPERTY(bool running READ running NOTIFY runningChanged)
     Q_PROPERTY(bool stopping READ stopping NOTIFY progressChanged)
     Q_PROPERTY(double progress READ progress NOTIFY progressChanged)

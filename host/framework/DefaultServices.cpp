@@ -12,6 +12,7 @@
 #include "commands/CommandRepository.h"
 #include "commands/INeedCommandRepository.h"
 #include "commands/INeedUICommandProcessor.h"
+#include "commands/RunningCommand.h"
 #include "commands/UICommandProcessor.h"
 #include "datamodel/Settings.h"
 #include "graphic/AnalysisResultsSource.h"
@@ -100,6 +101,7 @@ void DefaultServices::Install(ServiceCatalog& catalog)
     catalog.Register<ICommandRepository>(commandRepository);
     catalog.Register<IUICommandProcessor>(
         std::make_shared<UICommandProcessor>(commandRepository, catalog.Get<EventBus>(), undoStack));
+    catalog.Register<RunningCommand>(std::make_shared<RunningCommand>(catalog.Get<EventBus>()));
     catalog.Register<UI::QtExtensions::MessageBoxService>(
         std::make_shared<UI::QtExtensions::MessageBoxService>(catalog.Get<EventBus>()));
     // Empty until the host's engine exists: the host registers its root context then.

@@ -28,6 +28,8 @@ public:
     // The name of the tab's icon; the host's file helper makes a QML file path of it.
     virtual std::wstring GetIconName() const = 0;
     virtual bool IsReadOnly() const = 0;
+    // Some value breaks a rule of its property: the table's tab is shown alerted.
+    virtual bool HasErrors() const { return false; }
 
     virtual std::vector<TableDataColumn> GetColumns() const = 0;
     virtual int GetRowCount() const = 0;

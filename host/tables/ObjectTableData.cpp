@@ -144,6 +144,22 @@ std::vector<TableDataColumn> ObjectTableData::GetColumns() const
     return columns;
 }
 
+bool ObjectTableData::HasErrors() const
+{
+    const Model::Structure& structure = m_model->Structure();
+    const std::size_t count = structure.Count(m_kind);
+    for (const PropertyDefinition& definition : Type().Properties()) {
+        if (!definition.read)
+            continue;
+        for (std::size_t record = 0; record < count; ++record) {
+            if (definition.AppliesTo(structure, record)
+                && !definition.Check(definition.read(structure, record)).IsEmpty())
+                return true;
+        }
+    }
+    return false;
+}
+
 int ObjectTableData::GetRowCount() const
 {
     return int(m_model->Structure().Count(m_kind));

@@ -31,6 +31,7 @@ public:
     std::wstring GetLabel() const override;
     std::wstring GetIconName() const override;
     bool IsReadOnly() const override { return false; }
+    bool HasErrors() const override;
     std::vector<TableDataColumn> GetColumns() const override;
     int GetRowCount() const override;
     std::vector<TableDataColumnContent> GetCells(int first, int count,

@@ -8,6 +8,7 @@
 #include "framework/INeedServiceCatalog.h"
 
 #include <QAbstractListModel>
+#include <QtQml/qqmlregistration.h>
 #include <vector>
 
 namespace Orvo::UI::Events {
@@ -28,6 +29,8 @@ class HotkeyHandlerModel : public QAbstractListModel,
                            public Kernel::Framework::INeedCommandRepository
 {
     Q_OBJECT
+    // Described for QML tools (the documents that bind to it); never registered by name.
+    QML_ANONYMOUS
     Q_PROPERTY(bool shortcutsEnabled READ shortcutsEnabled NOTIFY shortcutsEnabledChanged)
 
 public:

@@ -2,6 +2,10 @@
 
 #include "StringsQtComponents.h"
 #include "commands/CommandMenuHelper.h"
+#include "common/ComboBoxProxyModel.h"
+#include "common/FilterItemsProxyModel.h"
+#include "common/SelectionModel.h"
+#include "common/SimpleComboBoxProxyModel.h"
 #include "commands/HotkeyHandler.h"
 #include "markingmenu/MarkingMenu.h"
 #include "markingmenu/MarkingMenuConfig.h"
@@ -14,6 +18,9 @@
 #include "properties/PropertiesPanelUserConfiguration.h"
 #include "properties/PropertiesProxyModel.h"
 #include "qtextensions/FramelessWindow.h"
+#include "spotlight/Spotlight.h"
+#include "spotlight/SpotlightModel.h"
+#include "spotlight/SpotlightProxyModel.h"
 #include "tables/FilterBarModel.h"
 #include "tables/MultiEditAction.h"
 #include "tables/MultiEditActionSolver.h"
@@ -22,6 +29,7 @@
 #include "tables/TableContentFilterModel.h"
 #include "tables/TableContentModel.h"
 #include "tables/TableInput.h"
+#include "tables/TableResult.h"
 #include "tables/TableSelectionFilterModel.h"
 #include "tables/TableSelectionModel.h"
 #include "tables/TableTabsModel.h"
@@ -52,6 +60,9 @@ void RegisterQtComponentsTypes(const char* uri)
     constexpr int minor = 0;
 
     // The order below is the module's registration order; keep new rows in their place.
+    qmlRegisterType<Spotlight>(uri, major, minor, "Spotlight_Cpp");
+    qmlRegisterType<SpotlightModel>(uri, major, minor, "SpotlightModel");
+    qmlRegisterType<SpotlightProxyModel>(uri, major, minor, "SpotlightProxyModel");
     qmlRegisterType<HotkeyHandler>(uri, major, minor, "HotkeyHandler_Cpp");
     qmlRegisterType<PropertiesPanelUserConfiguration>(uri, major, minor, "PropertiesPanelUserConfiguration");
     qmlRegisterType<ActionsModel>(uri, major, minor, "ActionsModel");
@@ -59,11 +70,16 @@ void RegisterQtComponentsTypes(const char* uri)
     qmlRegisterType<PropertiesModel>(uri, major, minor, "PropertiesModel");
     qmlRegisterType<PropertiesPanel>(uri, major, minor, "PropertiesPanel_Cpp");
     qmlRegisterType<PropertiesProxyModel>(uri, major, minor, "PropertiesProxyModel");
+    qmlRegisterType<ComboBoxProxyModel>(uri, major, minor, "ComboBoxProxyModel");
+    qmlRegisterType<FilterItemsProxyModel>(uri, major, minor, "FilterItemsProxyModel");
+    qmlRegisterType<SelectionModel>(uri, major, minor, "SelectionModel");
+    qmlRegisterType<SimpleComboBoxProxyModel>(uri, major, minor, "SimpleComboBoxProxyModel");
     qmlRegisterType<CommandMenuHelper>(uri, major, minor, "CommandMenuHelper");
     qmlRegisterType<IntegerValidator>(uri, major, minor, "IntegerValidator");
     qmlRegisterType<RealValidator>(uri, major, minor, "RealValidator");
     qmlRegisterType<InlineCalculator>(uri, major, minor, "InlineCalculator");
     qmlRegisterType<IllustrationData>(uri, major, minor, "IllustrationData");
+    qmlRegisterType<TableResult>(uri, major, minor, "TableResult_Cpp");
     qmlRegisterType<TableInput>(uri, major, minor, "TableInput_Cpp");
     qmlRegisterType<TableWorkstationsModel>(uri, major, minor, "TableWorkstationsModel");
     qmlRegisterType<TableTabsModel>(uri, major, minor, "TableTabsModel");

@@ -46,5 +46,9 @@ target_sources(QtComponentsCore PRIVATE
     ${CMAKE_CURRENT_LIST_DIR}/TableTabsModel.h ${CMAKE_CURRENT_LIST_DIR}/TableTabsModel.cpp
     ${CMAKE_CURRENT_LIST_DIR}/TableTabsFilterModel.h ${CMAKE_CURRENT_LIST_DIR}/TableTabsFilterModel.cpp
     ${CMAKE_CURRENT_LIST_DIR}/TableWorkstationsModel.h ${CMAKE_CURRENT_LIST_DIR}/TableWorkstationsModel.cpp
+    ${CMAKE_CURRENT_LIST_DIR}/ColumnDataAdapter.h ${CMAKE_CURRENT_LIST_DIR}/ColumnDataAdapter.cpp
+    ${CMAKE_CURRENT_LIST_DIR}/TablePanelConfiguration.h ${CMAKE_CURRENT_LIST_DIR}/TablePanelConfiguration.cpp
+    ${CMAKE_CURRENT_LIST_DIR}/TablePanel.h ${CMAKE_CURRENT_LIST_DIR}/TablePanel.cpp
+    ${CMAKE_CURRENT_LIST_DIR}/TableResult.h ${CMAKE_CURRENT_LIST_DIR}/TableResult.cpp
     ${CMAKE_CURRENT_LIST_DIR}/TableInput.h ${CMAKE_CURRENT_LIST_DIR}/TableInput.cpp
 )

@@ -1,3 +1,4 @@
+#include "DemoShell.h"
 #include "StructuralMembersFeeder.h"
 #include "framework/HostApplication.h"
 #include "framework/ServiceCatalog.h"
@@ -10,6 +11,7 @@
 #include <QQmlEngine>
 #include <QTemporaryDir>
 #include <QtQuickTest>
+#include <memory>
 
 // Every test document runs in an application like the demo: a host started on the runner's
 // folder, where the build puts the demo's shipped files (commands, marking menu), whose shell
@@ -35,10 +37,16 @@ public slots:
             shell->SetContext(engine->rootContext());
         // The demo's 100,000-member table, for tests that use a table as a person does.
         qmlRegisterType<StructuralMembersFeeder>("Demo", 1, 0, "StructuralMembersFeeder");
+        // The demo's pages read the shell's objects from it; the pages under test use only the
+        // shortcuts the hotkey handler publishes.
+        m_demoShell = std::make_unique<DemoShell>(QString(), nullptr, nullptr, nullptr);
+        m_demoShell->SetShellContext(engine->rootContext());
+        qmlRegisterSingletonInstance("Demo", 1, 0, "DemoShell", m_demoShell.get());
     }
 
 private:
     QTemporaryDir m_userConfiguration;
+    std::unique_ptr<DemoShell> m_demoShell;
 };
 
 QUICK_TEST_MAIN_WITH_SETUP(qtcomponents, QmlTestHost)

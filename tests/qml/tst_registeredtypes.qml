@@ -10,10 +10,12 @@ TestCase {
 
     function test_create_data() {
         return [
-            "HotkeyHandler_Cpp", "PropertiesPanelUserConfiguration", "ActionsModel", "EntityModel",
-            "PropertiesModel", "PropertiesPanel_Cpp", "PropertiesProxyModel", "CommandMenuHelper",
+            "Spotlight_Cpp", "SpotlightModel", "SpotlightProxyModel", "HotkeyHandler_Cpp", "PropertiesPanelUserConfiguration", "ActionsModel", "EntityModel",
+            "PropertiesModel", "PropertiesPanel_Cpp", "PropertiesProxyModel",
+            "ComboBoxProxyModel", "FilterItemsProxyModel", "SelectionModel", "SimpleComboBoxProxyModel",
+            "CommandMenuHelper",
             "IntegerValidator", "RealValidator", "InlineCalculator", "IllustrationData",
-            "TableInput_Cpp", "TableWorkstationsModel", "TableTabsModel",
+            "TableResult_Cpp", "TableInput_Cpp", "TableWorkstationsModel", "TableTabsModel",
             "TableColumnsModel", "TableContentModel", "MultiEditAction", "MultiEditActionSolver",
             "MultiEditSearchResult", "TableContentFilterModel", "TableSelectionModel",
             "TableSelectionFilterModel", "FilterBarModel",

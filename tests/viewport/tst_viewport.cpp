@@ -9,6 +9,7 @@
 #include <QSGTexture>
 #include <QtTest>
 #include <thread>
+#include <tuple>
 
 using namespace Orvo;
 using Kernel::Model::ObjectKind;
@@ -22,6 +23,28 @@ bool OpenGLExpected()
 {
     return qEnvironmentVariableIsSet("QTC_EXPECT_OPENGL");
 }
+
+// The two kinds of renderer the item treats differently: a frame copied from an image, and the
+// engine's own OpenGL texture shown as it is.
+void AddRendererRows(const char* suffix = "")
+{
+    QTest::addColumn<int>("rendererType");
+    QTest::addColumn<bool>("needsOpenGL");
+    QTest::addRow("software%s", suffix) << int(Graphic::RendererType::Software) << false;
+    QTest::addRow("OpenGL%s", suffix) << int(Graphic::RendererType::OpenGL) << true;
+}
+
+// Where the window cannot render with OpenGL (offscreen), the OpenGL rows have nothing to test;
+// on an X server with Mesa they must run.
+#define SKIP_UNLESS_RENDERABLE(fixture, needsOpenGL)                                                         \
+    do {                                                                                                     \
+        QVERIFY(QTest::qWaitForWindowExposed((fixture).window.get()));                                       \
+        if ((needsOpenGL) && !(fixture).IsOpenGLWindow()) {                                                  \
+            if (OpenGLExpected())                                                                            \
+                QFAIL("The window does not render with OpenGL");                                             \
+            QSKIP("OpenGL renderers need a window that renders with OpenGL (run under xvfb-run)");           \
+        }                                                                                                    \
+    } while (false)
 
 // How many pixels of the frame are far from both ends of the background gradient.
 int DrawnPixels(const QImage& frame)
@@ -56,15 +79,22 @@ private slots:
     void shouldHaveNoViewportIdBeforeItsFirstFrame();
     void shouldTimeRedraws_data();
     void shouldTimeRedraws();
+    void shouldTimeRedrawsAskedForOnAnotherThread_data();
     void shouldTimeRedrawsAskedForOnAnotherThread();
     void shouldFollowAMoveWithACompleteFrame();
     void shouldSelectByRectangle_data();
     void shouldSelectByRectangle();
+    void shouldSignalEachStepOfADrag_data();
+    void shouldSignalEachStepOfADrag();
+    void shouldLeaveAPressItDoesNotUse_data();
     void shouldLeaveAPressItDoesNotUse();
     void shouldPickWithinThePickingRadius_data();
     void shouldPickWithinThePickingRadius();
+    void shouldInitialiseAZeroSizedItemButNeverDraw_data();
     void shouldInitialiseAZeroSizedItemButNeverDraw();
+    void shouldInitialiseAgainWithANewQueueAfterRelease_data();
     void shouldInitialiseAgainWithANewQueueAfterRelease();
+    void shouldReleaseWhenTheWindowCloses_data();
     void shouldReleaseWhenTheWindowCloses();
     void shouldShowTheModel_data();
     void shouldShowTheModel();
@@ -121,18 +151,50 @@ void tst_Viewport::shouldTimeRedraws()
     }
 }
 
+void tst_Viewport::shouldTimeRedrawsAskedForOnAnotherThread_data()
+{
+    QTest::addColumn<int>("pending");
+    QTest::addColumn<int>("msec");
+    QTest::addColumn<int>("guiBusyMs");
+    QTest::addColumn<bool>("active");
+    QTest::addColumn<int>("longest");
+    QTest::addColumn<int>("shortest");
+    QTest::newRow("a later time") << -1 << 400 << 0 << true << 400 << 300;
+    // The due time is counted from the request, not from when the GUI thread gets to it.
+    QTest::newRow("a due time that passed while the GUI thread was busy")
+        << -1 << 20 << 120 << true << 0 << 0;
+    QTest::newRow("what is left of a due time") << -1 << 400 << 150 << true << 250 << 100;
+    QTest::newRow("none stops a pending timer") << 500 << -1 << 0 << false << 0 << 0;
+}
+
 void tst_Viewport::shouldTimeRedrawsAskedForOnAnotherThread()
 {
+    QFETCH(int, pending);
+    QFETCH(int, msec);
+    QFETCH(int, guiBusyMs);
+    QFETCH(bool, active);
+    QFETCH(int, longest);
+    QFETCH(int, shortest);
     Viewport viewport;
+    viewport.ScheduleRedraw(pending);
+    const bool wasActive = viewport.RedrawTimer().isActive();
 
     // The GUI thread waits while the other thread asks, as it does while the render thread
     // synchronises.
-    std::thread engineThread([&viewport]() { viewport.ScheduleRedraw(200); });
+    std::thread engineThread([&viewport, msec]() { viewport.ScheduleRedraw(msec); });
     engineThread.join();
+    QThread::msleep(guiBusyMs);
 
-    QVERIFY2(!viewport.RedrawTimer().isActive(), "the timer belongs to the GUI thread");
-    QTRY_VERIFY(viewport.RedrawTimer().isActive());
-    QVERIFY(viewport.RedrawTimer().interval() <= 200);
+    QVERIFY2(viewport.RedrawTimer().isActive() == wasActive, "the timer belongs to the GUI thread");
+    // The request waits in the GUI thread's queue: run it, and nothing else.
+    QCoreApplication::sendPostedEvents(&viewport, QEvent::MetaCall);
+    QCOMPARE(viewport.RedrawTimer().isActive(), active);
+    if (active) {
+        QVERIFY2(viewport.RedrawTimer().interval() <= longest,
+                 qPrintable(QString::number(viewport.RedrawTimer().interval())));
+        QVERIFY2(viewport.RedrawTimer().interval() >= shortest,
+                 qPrintable(QString::number(viewport.RedrawTimer().interval())));
+    }
 }
 
 void tst_Viewport::shouldFollowAMoveWithACompleteFrame()
@@ -214,14 +276,84 @@ void tst_Viewport::shouldSelectByRectangle()
     }
 }
 
+void tst_Viewport::shouldSignalEachStepOfADrag_data()
+{
+    QTest::addColumn<int>("rendererType");
+    QTest::addColumn<bool>("needsOpenGL");
+    QTest::addColumn<Qt::MouseButton>("button");
+    QTest::addColumn<bool>("selecting");
+    for (const auto& [name, type, needsOpenGL] :
+         { std::tuple("software", Graphic::RendererType::Software, false),
+           std::tuple("OpenGL", Graphic::RendererType::OpenGL, true) }) {
+        QTest::addRow("%s, primary button: a rubber band", name)
+            << int(type) << needsOpenGL << Qt::LeftButton << true;
+        QTest::addRow("%s, middle button: the camera turns", name)
+            << int(type) << needsOpenGL << Qt::MiddleButton << false;
+    }
+}
+
+void tst_Viewport::shouldSignalEachStepOfADrag()
+{
+    QFETCH(int, rendererType);
+    QFETCH(bool, needsOpenGL);
+    QFETCH(Qt::MouseButton, button);
+    QFETCH(bool, selecting);
+    ViewportFixture fixture(rendererType);
+    SKIP_UNLESS_RENDERABLE(fixture, needsOpenGL);
+    fixture.Frame();
+    Viewport* viewport = fixture.viewport;
+    QSignalSpy display(viewport, &Viewport::displaySelectingRectChanged);
+    QSignalSpy rectangle(viewport, &Viewport::selectingRectChanged);
+    QVERIFY(display.isValid() && rectangle.isValid());
+    const QPoint from(100, 80);
+    const QPoint to(260, 200);
+
+    // A used press tells QML the rectangle may have changed, whatever the button
+    QTest::mousePress(fixture.window.get(), button, {}, from);
+    QCOMPARE(rectangle.count(), 1);
+    QCOMPARE(display.count(), 0);
+
+    // Moves tell of the rectangle only while it is being drawn
+    for (int step = 1; step <= 4; ++step) {
+        QTest::mouseMove(fixture.window.get(), from + (to - from) * step / 4);
+        fixture.Frame();
+    }
+    QCOMPARE(viewport->displaySelectingRect(), selecting);
+    QCOMPARE(display.count(), selecting ? 1 : 0);
+    if (selecting) {
+        QVERIFY(rectangle.count() > 1);
+        QCOMPARE(viewport->selectingRect(), QRect(from.x(), from.y(), to.x(), to.y()));
+    } else {
+        QCOMPARE(rectangle.count(), 1);
+        QVERIFY(viewport->IsTransforming());
+    }
+
+    // The release hides the band and tells QML once more
+    const int rectangleBefore = rectangle.count();
+    QTest::mouseRelease(fixture.window.get(), button, {}, to);
+    QVERIFY(!viewport->displaySelectingRect());
+    QCOMPARE(display.count(), selecting ? 2 : 0);
+    QCOMPARE(rectangle.count(), rectangleBefore + 1);
+    QVERIFY(!viewport->IsTransforming());
+}
+
+void tst_Viewport::shouldLeaveAPressItDoesNotUse_data()
+{
+    AddRendererRows();
+}
+
 void tst_Viewport::shouldLeaveAPressItDoesNotUse()
 {
-    ViewportFixture fixture(c_software);
+    QFETCH(int, rendererType);
+    QFETCH(bool, needsOpenGL);
+    ViewportFixture fixture(rendererType);
+    SKIP_UNLESS_RENDERABLE(fixture, needsOpenGL);
     fixture.Frame();
     auto bus = Kernel::Framework::ServiceCatalog::Global()->Get<Kernel::Framework::EventBus>();
     EventRecorder<UI::Events::ShowMarkingMenuEvent> menuRequests(*bus);
     QSignalSpy display(fixture.viewport, &Viewport::displaySelectingRectChanged);
     QSignalSpy rectangle(fixture.viewport, &Viewport::selectingRectChanged);
+    const auto selectionBefore = fixture.Model()->Selection();
 
     // The secondary button is not the view's: it reaches the area beneath (the marking menu).
     QTest::mousePress(fixture.window.get(), Qt::RightButton, {}, QPoint(200, 150));
@@ -229,7 +361,12 @@ void tst_Viewport::shouldLeaveAPressItDoesNotUse()
     QVERIFY(fixture.inputArea->holding());
     QCOMPARE(display.count(), 0);
     QCOMPARE(rectangle.count(), 0);
-    QTest::mouseRelease(fixture.window.get(), Qt::RightButton, {}, QPoint(200, 150));
+    QVERIFY(!fixture.viewport->IsTransforming());
+    QTest::mouseMove(fixture.window.get(), QPoint(240, 190));
+    QTest::mouseRelease(fixture.window.get(), Qt::RightButton, {}, QPoint(240, 190));
+    QCOMPARE(display.count(), 0);
+    QCOMPARE(rectangle.count(), 0);
+    QVERIFY(fixture.Model()->Selection() == selectionBefore);
 
     // The middle button is the view's: it turns the camera, nothing beneath hears of it.
     menuRequests.Clear();
@@ -272,24 +409,64 @@ void tst_Viewport::shouldPickWithinThePickingRadius()
         QCOMPARE(selection.front(), scene.NodeId(top));
 }
 
+void tst_Viewport::shouldInitialiseAZeroSizedItemButNeverDraw_data()
+{
+    QTest::addColumn<int>("rendererType");
+    QTest::addColumn<bool>("needsOpenGL");
+    QTest::addColumn<QSize>("size");
+    for (const auto& [name, type, needsOpenGL] :
+         { std::tuple("software", Graphic::RendererType::Software, false),
+           std::tuple("OpenGL", Graphic::RendererType::OpenGL, true) }) {
+        QTest::addRow("%s, no size", name) << int(type) << needsOpenGL << QSize(0, 0);
+        QTest::addRow("%s, no height", name) << int(type) << needsOpenGL << QSize(300, 0);
+    }
+}
+
 void tst_Viewport::shouldInitialiseAZeroSizedItemButNeverDraw()
 {
-    ViewportFixture fixture(c_software, QSize(0, 0));
+    QFETCH(int, rendererType);
+    QFETCH(bool, needsOpenGL);
+    QFETCH(QSize, size);
+    ViewportFixture fixture(rendererType, size);
+    SKIP_UNLESS_RENDERABLE(fixture, needsOpenGL);
     fixture.Frame();
 
     QTRY_VERIFY(fixture.viewport->Initialized());
     QVERIFY(fixture.viewport->viewportId() != -1);
+    QCOMPARE(fixture.viewport->GetRenderView().GetSize(), size);
+    // No frame: the node keeps its placeholder and has no area.
     QVERIFY(fixture.viewport->GetRenderView().GetImage().isNull());
+    QCOMPARE(fixture.viewport->GetRenderView().GetNativeTexture(), 0u);
+    QCOMPARE(fixture.viewport->ImageNode()->texture()->textureSize(), QSize(1, 1));
     QVERIFY(fixture.viewport->ImageNode()->rect().isEmpty());
+
+    // Given a size, it draws
+    fixture.viewport->setSize(QSizeF(ViewportFixture::c_windowSize));
+    QVERIFY(DrawnPixels(fixture.Frame()) > 0);
+    QCOMPARE(fixture.viewport->ImageNode()->rect(),
+             QRectF(QPointF(0, 0), QSizeF(ViewportFixture::c_windowSize)));
+}
+
+void tst_Viewport::shouldInitialiseAgainWithANewQueueAfterRelease_data()
+{
+    AddRendererRows();
 }
 
 void tst_Viewport::shouldInitialiseAgainWithANewQueueAfterRelease()
 {
-    ViewportFixture fixture(c_software);
+    QFETCH(int, rendererType);
+    QFETCH(bool, needsOpenGL);
+    ViewportFixture fixture(rendererType);
+    SKIP_UNLESS_RENDERABLE(fixture, needsOpenGL);
     fixture.Frame();
     Viewport* viewport = fixture.viewport;
     const int firstId = viewport->viewportId();
-    QSignalSpy idChanged(viewport, &Viewport::viewportIdChanged);
+    QVERIFY(firstId != -1);
+    // The first frame's announcement may still be on its way from the render thread.
+    QCoreApplication::sendPostedEvents(viewport, QEvent::MetaCall);
+    std::vector<int> ids;
+    QObject::connect(viewport, &Viewport::viewportIdChanged, viewport,
+                     [&ids, viewport]() { ids.push_back(viewport->viewportId()); });
 
     viewport->releaseResources();
 
@@ -299,16 +476,31 @@ void tst_Viewport::shouldInitialiseAgainWithANewQueueAfterRelease()
     fixture.Frame();
     QTRY_VERIFY(viewport->Initialized() && viewport->viewportId() != -1);
     QVERIFY(viewport->viewportId() != firstId);
-    QTRY_VERIFY(idChanged.count() >= 2); // none, then the new one
+    QTRY_COMPARE(ids.size(), 2u);
+    QCOMPARE(ids.front(), -1);
+    QCOMPARE(ids.back(), viewport->viewportId());
     // A queue of its own, not released like the last one.
     QVERIFY(viewport->RenderingQueue());
     QCOMPARE(viewport->RenderingQueue()->CurrentStage(), QQuickWindow::BeforeSynchronizingStage);
-    QVERIFY(DrawnPixels(fixture.Frame()) > 0);
+    QVERIFY(DrawnPixels(fixture.Frame()) > 200);
+
+    // And it can be released again through the new queue
+    const int secondId = viewport->viewportId();
+    viewport->releaseResources();
+    QTRY_VERIFY(!fixture.Graphics()->FindViewport(secondId));
+}
+
+void tst_Viewport::shouldReleaseWhenTheWindowCloses_data()
+{
+    AddRendererRows();
 }
 
 void tst_Viewport::shouldReleaseWhenTheWindowCloses()
 {
-    ViewportFixture fixture(c_software);
+    QFETCH(int, rendererType);
+    QFETCH(bool, needsOpenGL);
+    ViewportFixture fixture(rendererType);
+    SKIP_UNLESS_RENDERABLE(fixture, needsOpenGL);
     fixture.Frame();
     const int id = fixture.viewport->viewportId();
 
@@ -316,6 +508,7 @@ void tst_Viewport::shouldReleaseWhenTheWindowCloses()
 
     QTRY_VERIFY(!fixture.viewport->Initialized());
     QVERIFY(!fixture.Graphics()->FindViewport(id));
+    QCOMPARE(fixture.viewport->viewportId(), -1);
 }
 
 void tst_Viewport::shouldShowTheModel_data()
@@ -333,12 +526,7 @@ void tst_Viewport::shouldShowTheModel()
     QFETCH(int, rendererType);
     QFETCH(bool, needsOpenGL);
     ViewportFixture fixture(rendererType);
-    QVERIFY(QTest::qWaitForWindowExposed(fixture.window.get()));
-    if (needsOpenGL && !fixture.IsOpenGLWindow()) {
-        if (OpenGLExpected())
-            QFAIL("The window does not render with OpenGL");
-        QSKIP("OpenGL renderers need a window that renders with OpenGL");
-    }
+    SKIP_UNLESS_RENDERABLE(fixture, needsOpenGL);
 
     const QImage frame = fixture.Frame();
 
@@ -365,9 +553,7 @@ void tst_Viewport::shouldSizeTheTextureAfterAResize()
     QFETCH(int, rendererType);
     QFETCH(bool, needsOpenGL);
     ViewportFixture fixture(rendererType);
-    QVERIFY(QTest::qWaitForWindowExposed(fixture.window.get()));
-    if (needsOpenGL && !fixture.IsOpenGLWindow())
-        QSKIP("OpenGL renderers need a window that renders with OpenGL");
+    SKIP_UNLESS_RENDERABLE(fixture, needsOpenGL);
     fixture.Frame();
     QCOMPARE(fixture.viewport->ImageNode()->texture()->textureSize(), ViewportFixture::c_windowSize);
 

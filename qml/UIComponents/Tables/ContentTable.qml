@@ -34,7 +34,7 @@ FocusScope {
 
         function relayout() {
             // Widths may change while the view lays out (a delivery widens a column): wait for it.
-            Qt.callLater(tableView.forceLayout)
+            relayoutTimer.start()
         }
         function cellAt(item, x, y) {
             const point = item.mapToItem(tableView.contentItem, x, y)
@@ -127,6 +127,13 @@ FocusScope {
             }
             event.accepted = true
         }
+    }
+
+    // Lays the view out once the events queued now are handled, however many asked for it.
+    Timer {
+        id: relayoutTimer
+        interval: 0
+        onTriggered: tableView.forceLayout()
     }
 
     Connections {

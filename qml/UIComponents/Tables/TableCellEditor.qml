@@ -124,24 +124,30 @@ Item {
         id: combo
         visible: editor.usesList
         anchors.fill: parent
-        model: editor.choices
+        // Each choice carries what its line shows: the delegate is a component of its own.
+        model: editor.choices.map((value, index) => ({
+            value: value,
+            swatch: editor.contentType === TableContentModel.Color,
+            label: editor.contentType === TableContentModel.Color && editor.contentModel
+                   ? Strings.text(editor.contentModel.getColorLcid(index)) : String(value)
+        }))
+        textRole: "value"
+        valueRole: "value"
         delegate: Controls.ItemDelegate {
             id: choice
-            required property int index
             required property var modelData
-            width: combo.width
+            width: choice.ListView.view ? choice.ListView.view.width : implicitWidth
             contentItem: Row {
                 spacing: 6
                 Rectangle {
-                    visible: editor.contentType === TableContentModel.Color
+                    visible: choice.modelData.swatch
                     width: 24; height: 14; radius: 2
                     anchors.verticalCenter: parent.verticalCenter
-                    color: visible ? choice.modelData : BasicConstants.colors.panel
+                    color: visible ? choice.modelData.value : BasicConstants.colors.panel
                     border.color: BasicConstants.colors.border
                 }
                 Text {
-                    text: editor.contentType === TableContentModel.Color && editor.contentModel
-                          ? Strings.text(editor.contentModel.getColorLcid(choice.index)) : choice.modelData
+                    text: choice.modelData.label
                     font.family: BasicConstants.fonts.family
                     font.pixelSize: BasicConstants.fonts.normal
                 }

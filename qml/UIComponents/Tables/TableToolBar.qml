@@ -58,14 +58,14 @@ RowLayout {
                     // The roles are read through model: "id" and "visible" would clash with the
                     // check box's own properties.
                     delegate: BasicCheckBox {
-                        required property int index
+                        id: toggle
                         required property var model
-                        objectName: "columnToggle_" + model.id
-                        width: columnsList.width
-                        text: model.label
-                        checked: model.visible
-                        onToggled: columnsList.model.setData(columnsList.model.index(index, 0), checked,
-                                                             TableColumnsModel.VisibleRole)
+                        objectName: "columnToggle_" + toggle.model.id
+                        width: toggle.ListView.view ? toggle.ListView.view.width : implicitWidth
+                        text: toggle.model.label
+                        checked: toggle.model.visible
+                        // Writes the column's VisibleRole through the model.
+                        onToggled: toggle.model.visible = toggle.checked
                     }
                 }
                 BasicButton {
