@@ -18,6 +18,7 @@ target_sources(QtComponentsCore PRIVATE
     ${CMAKE_CURRENT_LIST_DIR}/TableNumberText.h ${CMAKE_CURRENT_LIST_DIR}/TableNumberText.cpp
     ${CMAKE_CURRENT_LIST_DIR}/TableColorPalette.h ${CMAKE_CURRENT_LIST_DIR}/TableColorPalette.cpp
     ${CMAKE_CURRENT_LIST_DIR}/TableColumnsModel.h ${CMAKE_CURRENT_LIST_DIR}/TableColumnsModel.cpp
+    ${CMAKE_CURRENT_LIST_DIR}/TableColumnVisibility.h ${CMAKE_CURRENT_LIST_DIR}/TableColumnVisibility.cpp
     ${CMAKE_CURRENT_LIST_DIR}/TableSelectionRegion.h ${CMAKE_CURRENT_LIST_DIR}/TableSelectionRegion.cpp
     ${CMAKE_CURRENT_LIST_DIR}/TableSelectionView.h
     ${CMAKE_CURRENT_LIST_DIR}/TableSelectionState.h ${CMAKE_CURRENT_LIST_DIR}/TableSelectionState.cpp

@@ -7,6 +7,7 @@
 #include "TableCellText.h"
 #include "TableClipboard.h"
 #include "TableColorPalette.h"
+#include "TableColumnVisibility.h"
 #include "TableContentDelivery.h"
 #include "TableContentFilterModel.h"
 #include "TableNamedStateWidths.h"
@@ -19,7 +20,6 @@
 #include "framework/EventBus.h"
 #include "framework/ServiceCatalog.h"
 
-#include <QScopedValueRollback>
 #include <algorithm>
 #include <stdexcept>
 #include <utility>
@@ -50,10 +50,7 @@ TableContentModel::TableContentModel(QObject* parent)
     m_contentFilterModel->SetSourceModel(this);
     m_multiEditSearchResult = new MultiEditSearchResult(m_contentFilterModel, this);
 
-    connect(m_columnsModel, &TableColumnsModel::columnCountChanged, this,
-            &TableContentModel::onColumnsModelColumnsCountChanged);
-    connect(m_columnsModel, &TableColumnsModel::columnsVisibilityChanged, this,
-            &TableContentModel::onColumnsVisibilityChanged);
+    m_columnVisibility = new TableColumnVisibility(*this, *m_columnsModel, this);
     m_selectionFollower = new TableSelectionFollower(*this, *m_selectionModel, this);
     connect(m_selectionFollower, &TableSelectionFollower::selectionRolesChanged, this,
             [this](const QModelIndex& topLeft, const QModelIndex& bottomRight) {
@@ -410,10 +407,9 @@ bool TableContentModel::SetCellValue(int row, int column, const QVariant& value,
 {
     if (!IsCellEditable(row, column))
         return false;
-    const TablePendingEdits::EditResult result
-        = m_pendingEdits.EditCell(row, column, EnsureData(row, column, ContentRequest::VisibleColumns),
-                                  GetValueType(row, column), value, role == ParameterIndexRole,
-                                  m_layout.At(column).unit);
+    const TablePendingEdits::EditResult result = m_pendingEdits.EditCell(
+        row, column, EnsureData(row, column, ContentRequest::VisibleColumns), GetValueType(row, column),
+        value, role == ParameterIndexRole, m_layout.At(column).unit);
     if (result == TablePendingEdits::EditResult::Rejected)
         return false;
     const QModelIndex changed = index(row, column);
@@ -430,7 +426,8 @@ QString TableContentModel::TypedTextRefusal(int row, int column, const QString& 
             ? QStringList()
             : EnsureData(row, column, ContentRequest::VisibleColumns).parametersNames;
         const TableValueType type = IsNewRow(row) ? m_layout.At(column).type : GetValueType(row, column);
-        return TableCellText::ReadTyped(text, type, names, TableNumberText(), m_layout.At(column).unit).reason;
+        return TableCellText::ReadTyped(text, type, names, TableNumberText(), m_layout.At(column).unit)
+            .reason;
     });
 }
 
@@ -542,6 +539,11 @@ void TableContentModel::UpdateColumnLabel(int index, const QString& label)
     emit headerDataChanged(Qt::Horizontal, index, index);
 }
 
+bool TableContentModel::IsRebuildingColumns() const
+{
+    return m_columnVisibility->IsRebuilding();
+}
+
 int TableContentModel::FindParentColumnIndex(int column) const
 {
     if (!m_layout.Contains(column))
@@ -566,36 +568,6 @@ void TableContentModel::moveColumn(int srcIndex, int dstIndex)
     m_columnsModel->MoveVisibleColumn(movedId, beforeId);
     endMoveColumns();
     emit columnsLayoutChanged();
-}
-
-void TableContentModel::onColumnsModelColumnsCountChanged()
-{
-    RequestAllVisibleColumns();
-}
-
-void TableContentModel::onColumnsVisibilityChanged(std::vector<int> indexes, bool visible)
-{
-    if (visible) {
-        RequestAllVisibleColumns();
-        return;
-    }
-    for (int index : indexes) {
-        const auto& items = m_columnsModel->GetItems();
-        if (index < 0 || index >= static_cast<int>(items.size()))
-            continue;
-        const int column = FindColumnIndex(items[static_cast<std::size_t>(index)].id);
-        if (column >= 0)
-            RemoveColumn(column);
-    }
-}
-
-void TableContentModel::RequestAllVisibleColumns()
-{
-    // The feeder knows how to build columns; it answers with AddColumns in the columns model's order.
-    const QScopedValueRollback rebuilding(m_rebuildingColumns, true);
-    if (columnCount() > 0)
-        RemoveAllColumns();
-    emit addColumnsRequest(m_columnsModel->GetVisibleIds());
 }
 
 // ---- Actions, clipboard, multi-edit -------------------------------------------------------------------

@@ -29,6 +29,7 @@
 
 namespace Orvo::UI::UIComponents {
 
+class TableColumnVisibility;
 class TableNamedStateWidths;
 
 // The cell model behind every data table. It never reads the host's data itself: it asks its feeder
@@ -208,6 +209,7 @@ public:
     // Feeder side
     void AddColumns(std::vector<TableColumn>&& columns);
     void RemoveColumn(int index, bool notify = true);
+    void RemoveAllColumns();
     void UpdateColumnLabel(int index, const QString& label);
     void SetAllColumns(std::vector<TableColumnModelItem>&& columns)
     {
@@ -252,7 +254,7 @@ public:
     int FindColumnIndex(const QString& columnId) const { return m_layout.FindById(columnId); }
     // True while every column is removed and asked for again (a column was shown): the columns
     // that go now come back at once.
-    bool IsRebuildingColumns() const { return m_rebuildingColumns; }
+    bool IsRebuildingColumns() const;
 
     TableColumnsModel* columnsModel() const { return m_columnsModel; }
     TableSelectionModel* selectionModel() const { return m_selectionModel; }
@@ -305,10 +307,6 @@ signals:
     void aboutToClearContent();
     void clearContent();
 
-private slots:
-    void onColumnsModelColumnsCountChanged();
-    void onColumnsVisibilityChanged(std::vector<int> indexes, bool visible);
-
 private:
     bool IsInTable(const QModelIndex& index) const;
     bool IsNewRow(int row) const { return m_allowAddNew && row == m_rowCountSubmitted; }
@@ -319,8 +317,6 @@ private:
     bool SetCellValue(int row, int column, const QVariant& value, int role);
     // Queues edits and repaints the rows they touch in one go.
     void QueueEdits(const TableContentUpdate& edits, const QList<int>& roles);
-    void RequestAllVisibleColumns();
-    void RemoveAllColumns();
     // Cells write numbers with the host's number format: a new format rewrites every shown text.
     void FollowNumberFormat();
 
@@ -331,7 +327,6 @@ private:
     int m_rowCountSubmitted = 0;
     TableColumnLayout m_layout;
     mutable TableContentGrid m_grid;
-    bool m_rebuildingColumns = false;
 
     TablePendingEdits m_pendingEdits;
     TableColumnsModel* m_columnsModel = nullptr;
@@ -341,6 +336,7 @@ private:
     MultiEditSearchResult* m_multiEditSearchResult = nullptr;
     TableSelectionFollower* m_selectionFollower = nullptr;
     TableNamedStateWidths* m_namedStateWidths = nullptr;
+    TableColumnVisibility* m_columnVisibility = nullptr;
     QHash<QString, QString> m_colorNames;
     Kernel::Framework::EventConnection m_numberFormatConnection;
 };
