@@ -80,6 +80,15 @@ BasicPanel {
             clip: true
             model: objects
             boundsBehavior: Flickable.StopAtBounds
+            // A selection made in the view or the tables scrolls into sight; one made here is
+            // already in sight, and Contain leaves the list where it is.
+            Connections {
+                target: objects
+                function onLastSelectedRowChanged() {
+                    if (objects.lastSelectedRow >= 0 && objectList.height > 0)
+                        objectList.positionViewAtIndex(objects.lastSelectedRow, ListView.Contain)
+                }
+            }
             delegate: Rectangle {
                 id: objectRow
                 required property int index
