@@ -72,7 +72,7 @@ BasicPanel {
             }
         }
 
-        ListView {
+        ModelObjectsList {
             id: objectList
             objectName: "modelObjectsList"
             Layout.fillWidth: true
@@ -80,6 +80,8 @@ BasicPanel {
             clip: true
             model: objects
             boundsBehavior: Flickable.StopAtBounds
+            numberWidth: panel.numberWidth
+            nameWidth: panel.nameWidth
             // A selection made in the view or the tables scrolls into sight; one made here is
             // already in sight, and Contain leaves the list where it is.
             Connections {
@@ -91,6 +93,8 @@ BasicPanel {
             }
             delegate: Rectangle {
                 id: objectRow
+                // The list attaches itself only after the row's first bindings.
+                readonly property ModelObjectsList list: ListView.view as ModelObjectsList
                 required property int index
                 required property int number
                 required property string typeName
@@ -107,14 +111,14 @@ BasicPanel {
                     anchors { fill: parent; leftMargin: BasicConstants.sizes.margin }
                     spacing: BasicConstants.sizes.margin
                     Text {
-                        Layout.preferredWidth: panel.numberWidth
+                        Layout.preferredWidth: objectRow.list ? objectRow.list.numberWidth : 0
                         text: objectRow.typeName + " " + objectRow.number
                         font.family: BasicConstants.fonts.family
                         font.pixelSize: BasicConstants.fonts.normal
                         color: BasicConstants.colors.textSecondary
                     }
                     Text {
-                        Layout.preferredWidth: panel.nameWidth
+                        Layout.preferredWidth: objectRow.list ? objectRow.list.nameWidth : 0
                         text: objectRow.name
                         elide: Text.ElideRight
                         font.family: BasicConstants.fonts.family
