@@ -85,6 +85,15 @@ BasicPanel {
             boundsBehavior: Flickable.StopAtBounds
             numberWidth: panel.numberWidth
             nameWidth: panel.nameWidth
+            // A selection made in the view or the tables scrolls into sight; one made here is
+            // already in sight, and Contain leaves the list where it is.
+            Connections {
+                target: objects
+                function onLastSelectedRowChanged() {
+                    if (objects.lastSelectedRow >= 0 && objectList.height > 0)
+                        objectList.positionViewAtIndex(objects.lastSelectedRow, ListView.Contain)
+                }
+            }
             delegate: Rectangle {
                 id: objectRow
                 // The list attaches itself only after the row's first bindings.
