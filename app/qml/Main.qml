@@ -54,6 +54,13 @@ ApplicationWindow {
     // The spotlight search over every page (Ctrl+Space).
     Spotlight {
         objectName: "spotlight"
+        // A table chosen in the search opens on the tables page.
+        onTableRequested: (workstationId, tableId) => {
+            pageList.currentIndex = window.pageIndex("tables")
+            const page = pageStack.pageItem(pageList.currentIndex) as TablesPage
+            if (page)
+                page.showTable(tableId)
+        }
         parent: window.contentItem
         z: 100
         width: Math.min(620, window.width - 40)
