@@ -7,6 +7,7 @@ import Orvo.QtExtensions
 import UIComponents.GraphicView
 import UIComponents.ProcessToolbar
 import UIComponents.PropertiesPanel
+import UIComponents.Tables
 import UIComponents.ViewBar
 import Demo
 
@@ -88,8 +89,7 @@ Item {
                     palette.windowText: BasicConstants.colors.text
                     palette.dark: BasicConstants.colors.panelHeader
                     palette.brightText: BasicConstants.colors.textSecondary
-                    // The tables are made when first shown: their 100,000 generated rows are
-                    // not needed before.
+                    // The tables are made when first shown: nothing asks the host for rows before.
                     onCurrentIndexChanged: {
                         if (currentItem === tablesTab)
                             tablesPanel.active = true
@@ -119,11 +119,16 @@ Item {
                         title: ""
                     }
 
+                    // The model's input tables alone: the properties panel beside the view already
+                    // shows the rows selected here.
                     Loader {
                         id: tablesPanel
                         objectName: "tablesPanel"
                         active: false
-                        source: "TablesPage.qml"
+                        sourceComponent: TableInput {
+                            objectName: "workspaceInputTables"
+                            configurationKey: "WorkspaceTableInput"
+                        }
                     }
                 }
             }

@@ -10,7 +10,8 @@ TestCase {
 
     function test_create_data() {
         return [
-            "Spotlight_Cpp", "SpotlightModel", "SpotlightProxyModel", "HotkeyHandler_Cpp",
+            "Spotlight_Cpp", "SpotlightModel", "SpotlightProxyModel", "SubcommandsModel",
+            "MenuItemsModel", "MenuItemsFilterModel", "MenuSystem_Cpp", "HotkeyHandler_Cpp",
             "UnitsSubDataModel", "ScaleSubDataModel", "SnappingSubDataModel", "CoordinatesSubModel",
             "MasterEntitySubDataModel", "StatusbarData", "StatusBar_Cpp", "ProcessToolbar_Cpp", "CenterButtonData", "TooltipData",
             "ViewBar_Cpp", "MoreOptionsMenuModel", "ViewBarUserConfiguration",
