@@ -45,13 +45,14 @@ Item {
                     Layout.fillWidth: true
                     onTablesRequested: bottomTabs.currentIndex = 1
                     onResultsRequested: {
-                        DemoShell.viewControls.deformedShape = true
-                        DemoShell.viewControls.momentDiagram = true
+                        viewBar.setChecked("deformed", true)
+                        viewBar.setChecked("moments", true)
                     }
                 }
 
                 // Presets, framing and what the view shows; narrow, it folds into a menu.
                 ViewBar {
+                    id: viewBar
                     objectName: "viewBar"
                     Layout.fillWidth: true
                     viewportId: graphicView.viewport.viewportId

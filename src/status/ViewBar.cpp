@@ -125,6 +125,15 @@ bool ViewBar::activate(const QString& buttonId)
     return true;
 }
 
+bool ViewBar::setChecked(const QString& buttonId, bool checked)
+{
+    const int row = m_buttons->FindRow(buttonId);
+    if (row >= 0 && m_buttons->Buttons()[std::size_t(row)].checkable
+        && m_buttons->Buttons()[std::size_t(row)].checked == checked)
+        return true;
+    return activate(buttonId);
+}
+
 void ViewBar::setPinned(const QString& buttonId, bool pinned)
 {
     if (m_buttons->FindRow(buttonId) < 0) {

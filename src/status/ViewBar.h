@@ -56,6 +56,8 @@ public:
     // What a click on the button does: a preset or framing, or a display toggle.
     Q_INVOKABLE bool activate(const QString& buttonId);
     Q_INVOKABLE void setPinned(const QString& buttonId, bool pinned);
+    // Turns a display toggle on or off whatever its state (the results step shows the results).
+    Q_INVOKABLE bool setChecked(const QString& buttonId, bool checked);
 
     void loadConfiguration(const QString& userConfiguration) override;
     QString saveConfiguration() override;

@@ -119,6 +119,9 @@ private slots:
         QCOMPARE(m_view->GetDisplayOptions().loads, !loadsBefore);
         const QModelIndex loads = m_bar->buttons()->index(m_bar->buttons()->FindRow(QStringLiteral("loads")));
         QCOMPARE(loads.data(ViewBarButtonsModel::CheckedRole).toBool(), !loadsBefore);
+        // Asked for the state it has, a toggle stays as it is.
+        QVERIFY(m_bar->setChecked(QStringLiteral("loads"), !loadsBefore));
+        QCOMPARE(m_view->GetDisplayOptions().loads, !loadsBefore);
 
         // From the menu of a narrow bar.
         m_bar->setAvailableWidth(150);
@@ -140,6 +143,7 @@ private slots:
             = m_bar->buttons()->index(m_bar->buttons()->FindRow(QStringLiteral("deformed")));
         QVERIFY(!deformed.data(ViewBarButtonsModel::EnabledRole).toBool());
         QVERIFY(!m_bar->activate(QStringLiteral("deformed")));
+        QVERIFY(!m_bar->setChecked(QStringLiteral("deformed"), true));
         QVERIFY(!m_view->GetDisplayOptions().deformedShape);
         QTest::ignoreMessage(QtWarningMsg, QRegularExpression("no button"));
         QVERIFY(!m_bar->activate(QStringLiteral("rainbow")));
