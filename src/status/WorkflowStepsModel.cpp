@@ -2,6 +2,8 @@
 
 #include "plugin/QtComponentsText.h"
 
+#include <QMetaEnum>
+
 namespace Orvo::UI::UIComponents {
 
 const std::vector<WorkflowStepsModel::Step>& WorkflowStepsModel::Steps()
@@ -58,6 +60,12 @@ QVariant WorkflowStepsModel::data(const QModelIndex& index, int role) const
         return State(index.row());
     case CurrentRole:
         return index.row() == m_current;
+    case StateNameRole: {
+        const char* key = QMetaEnum::fromType<StepState>().valueToKey(State(index.row()));
+        QString name = QString::fromLatin1(key);
+        name[0] = name[0].toLower();
+        return name;
+    }
     default:
         return {};
     }
@@ -68,7 +76,7 @@ QHash<int, QByteArray> WorkflowStepsModel::roleNames() const
     return { { StepIdRole, "stepId" },           { TitleRole, "title" },
              { DescriptionRole, "description" }, { ActionTitleRole, "actionTitle" },
              { ShortcutRole, "shortcut" },       { StateRole, "stepState" },
-             { CurrentRole, "current" } };
+             { CurrentRole, "current" }, { StateNameRole, "stateName" } };
 }
 
 WorkflowStepsModel::StepState WorkflowStepsModel::State(int row) const
@@ -81,7 +89,7 @@ void WorkflowStepsModel::SetState(int row, StepState state)
     if (row < 0 || row >= rowCount() || m_states[std::size_t(row)] == state)
         return;
     m_states[std::size_t(row)] = state;
-    emit dataChanged(index(row), index(row), { StateRole });
+    emit dataChanged(index(row), index(row), { StateRole, StateNameRole });
 }
 
 void WorkflowStepsModel::SetCurrent(int row)

@@ -34,6 +34,8 @@ public:
         ShortcutRole,
         StateRole,
         CurrentRole,
+        // The state by name ("done", "needsUpdate", ...), for documents, which do not see the enum.
+        StateNameRole,
     };
     Q_ENUM(Roles)
 

@@ -92,6 +92,16 @@ private slots:
         QCOMPARE(Describe(*m_toolbar->steps()), expected);
     }
 
+    void shouldNameEveryStateForTheDocuments()
+    {
+        QVERIFY(Do(QStringLiteral("analyse")));
+        QVERIFY(Do(QStringLiteral("edit")));
+        const QModelIndex analysis = m_toolbar->steps()->index(AnalysisStep);
+        QCOMPARE(analysis.data(WorkflowStepsModel::StateNameRole).toString(), QStringLiteral("needsUpdate"));
+        QCOMPARE(m_toolbar->steps()->index(ModelStep).data(WorkflowStepsModel::StateNameRole).toString(),
+                 QStringLiteral("done"));
+    }
+
     void shouldOfferTheCurrentStepsActionInTheCentre_data()
     {
         QTest::addColumn<int>("step");

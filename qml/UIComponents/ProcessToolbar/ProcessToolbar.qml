@@ -17,13 +17,15 @@ ProcessToolbar_Cpp {
         id: d
         // Steps before the centre button, the others after it.
         readonly property int firstHalf: 3
+        // Narrower than this, the steps show their marks only (their titles are in the tooltips).
+        readonly property int compactBelow: 760
 
-        function stateColor(stepState) {
-            switch (stepState) {
-            case WorkflowStepsModel.Done: return BasicConstants.colors.success
-            case WorkflowStepsModel.NeedsUpdate: return BasicConstants.colors.warning
-            case WorkflowStepsModel.Error: return BasicConstants.colors.error
-            case WorkflowStepsModel.Running: return BasicConstants.colors.accent
+        function stateColor(stateName) {
+            switch (stateName) {
+            case "done": return BasicConstants.colors.success
+            case "needsUpdate": return BasicConstants.colors.warning
+            case "error": return BasicConstants.colors.error
+            case "running": return BasicConstants.colors.accent
             default: return BasicConstants.colors.border
             }
         }
@@ -44,38 +46,54 @@ ProcessToolbar_Cpp {
         data: toolbar.tooltip
     }
 
+    // The delegates reach the toolbar through the connections made when they are added.
     component StepButton: ProcessStep_UI {
         id: stepButton
         required property int index
         required property string stepId
         required property string title
         required property string shortcut
-        required property int stepState
-        required property bool current
+        required property string stateName
+        signal chosen()
+        signal hoverChanged(bool inside)
         objectName: "step_" + stepId
-        stateColor: d.stateColor(stepState)
+        text: title
+        current: false
+        stateColor: stateName === "done" ? BasicConstants.colors.success
+                  : stateName === "needsUpdate" ? BasicConstants.colors.warning
+                  : stateName === "error" ? BasicConstants.colors.error
+                  : stateName === "running" ? BasicConstants.colors.accent
+                  : BasicConstants.colors.border
         hovered: stepArea.containsMouse
         MouseArea {
             id: stepArea
             anchors.fill: parent
             hoverEnabled: true
-            onClicked: toolbar.currentStep = stepButton.index
-            onContainsMouseChanged: {
-                if (containsMouse) {
-                    toolbar.showTooltip(stepButton.index)
-                    tip.parent = stepButton
-                    tip.y = stepButton.height + 4
-                    tip.open()
-                } else {
-                    tip.close()
-                }
-            }
+            onClicked: stepButton.chosen()
+            onContainsMouseChanged: stepButton.hoverChanged(containsMouse)
         }
         Shortcut {
             sequence: stepButton.shortcut
             context: Qt.ApplicationShortcut
-            onActivated: toolbar.currentStep = stepButton.index
+            onActivated: stepButton.chosen()
         }
+    }
+
+    function connectStep(index, item, shown) {
+        item.visible = shown
+        item.compact = Qt.binding(() => toolbar.width < d.compactBelow)
+        item.current = Qt.binding(() => toolbar.currentStep === index)
+        item.chosen.connect(() => toolbar.currentStep = index)
+        item.hoverChanged.connect(inside => {
+            if (inside) {
+                toolbar.showTooltip(index)
+                tip.parent = item
+                tip.y = item.height + 4
+                tip.open()
+            } else {
+                tip.close()
+            }
+        })
     }
 
     RowLayout {
@@ -85,9 +103,8 @@ ProcessToolbar_Cpp {
 
         Repeater {
             model: toolbar.steps
-            delegate: StepButton {
-                visible: index < d.firstHalf
-            }
+            delegate: StepButton {}
+            onItemAdded: (index, item) => toolbar.connectStep(index, item, index < d.firstHalf)
         }
 
         Button {
@@ -145,9 +162,8 @@ ProcessToolbar_Cpp {
 
         Repeater {
             model: toolbar.steps
-            delegate: StepButton {
-                visible: index >= d.firstHalf
-            }
+            delegate: StepButton {}
+            onItemAdded: (index, item) => toolbar.connectStep(index, item, index >= d.firstHalf)
         }
     }
 }

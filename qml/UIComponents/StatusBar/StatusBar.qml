@@ -58,7 +58,9 @@ StatusBar_Cpp {
 
         Label {
             objectName: "coordinates"
-            Layout.preferredWidth: 260
+            Layout.fillWidth: true
+            Layout.minimumWidth: 110
+            Layout.maximumWidth: 300
             elide: Text.ElideRight
             text: d.data.coordinates.valid
                   ? "x " + d.data.coordinates.xText + "   y " + d.data.coordinates.yText + "   z "
@@ -77,6 +79,7 @@ StatusBar_Cpp {
         Label { text: Strings.text("UI_STATUSBAR_SNAPS") }
         Repeater {
             model: d.data.snapping.snaps
+            onItemAdded: (index, item) => item.toggleRequested.connect(() => d.data.snapping.toggle(item.snapId))
             delegate: StatusBarToggle_UI {
                 id: snapToggle
                 required property string snapId
@@ -84,6 +87,7 @@ StatusBar_Cpp {
                 required property string description
                 required property string shortcut
                 required property bool enabled
+                signal toggleRequested()
                 objectName: "snap_" + snapId
                 text: name
                 checked: snapToggle.enabled
@@ -95,19 +99,21 @@ StatusBar_Cpp {
                     id: snapArea
                     anchors.fill: parent
                     hoverEnabled: true
-                    onClicked: d.data.snapping.toggle(snapToggle.snapId)
+                    onClicked: snapToggle.toggleRequested()
                 }
                 Shortcut {
                     sequence: snapToggle.shortcut
                     context: Qt.ApplicationShortcut
-                    onActivated: d.data.snapping.toggle(snapToggle.snapId)
+                    onActivated: snapToggle.toggleRequested()
                 }
             }
         }
         Divider {}
         BasicComboBox {
             objectName: "workPlane"
-            Layout.preferredWidth: 150
+            Layout.fillWidth: true
+            Layout.minimumWidth: 80
+            Layout.maximumWidth: 150
             Layout.preferredHeight: BasicConstants.sizes.rowHeight - 2
             font.pixelSize: BasicConstants.fonts.small
             model: d.data.masterEntity.workPlanes
@@ -119,7 +125,9 @@ StatusBar_Cpp {
         }
         BasicComboBox {
             objectName: "loadCase"
-            Layout.preferredWidth: 150
+            Layout.fillWidth: true
+            Layout.minimumWidth: 80
+            Layout.maximumWidth: 150
             Layout.preferredHeight: BasicConstants.sizes.rowHeight - 2
             font.pixelSize: BasicConstants.fonts.small
             enabled: d.data.masterEntity.loadCases.length > 0
@@ -132,7 +140,7 @@ StatusBar_Cpp {
             ToolTip.delay: 500
         }
 
-        Item { Layout.fillWidth: true }
+        Item { Layout.fillWidth: true; Layout.minimumWidth: 0 }
 
         RowLayout {
             objectName: "progress"

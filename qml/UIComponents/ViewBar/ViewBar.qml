@@ -37,6 +37,16 @@ ViewBar_Cpp {
 
         Repeater {
             model: viewBar.buttons
+            // The delegates reach the bar through the connections made when they are added.
+            onItemAdded: (index, item) => {
+                item.width = d.buttonWidth
+                item.clickedWith.connect(mouseButton => {
+                    if (mouseButton === Qt.RightButton)
+                        viewBar.setPinned(item.buttonId, !item.pinned)
+                    else
+                        viewBar.activate(item.buttonId)
+                })
+            }
             delegate: ViewBarButton_UI {
                 id: barButton
                 required property string buttonId
@@ -45,9 +55,9 @@ ViewBar_Cpp {
                 required property bool buttonEnabled
                 required property bool pinned
                 required property bool inBar
+                signal clickedWith(int mouseButton)
                 objectName: "viewBar_" + buttonId
                 visible: inBar
-                width: d.buttonWidth
                 text: title
                 active: buttonEnabled
                 hovered: buttonArea.containsMouse
@@ -56,12 +66,7 @@ ViewBar_Cpp {
                     anchors.fill: parent
                     hoverEnabled: true
                     acceptedButtons: Qt.LeftButton | Qt.RightButton
-                    onClicked: mouse => {
-                        if (mouse.button === Qt.RightButton)
-                            viewBar.setPinned(barButton.buttonId, !barButton.pinned)
-                        else
-                            viewBar.activate(barButton.buttonId)
-                    }
+                    onClicked: mouse => barButton.clickedWith(mouse.button)
                 }
             }
         }
@@ -86,14 +91,17 @@ ViewBar_Cpp {
                 Instantiator {
                     model: viewBar.moreOptions.items
                     delegate: MenuItem {
+                        id: menuEntry
                         required property var modelData
-                        text: modelData.title
-                        checkable: modelData.checkable
-                        checked: modelData.checked
-                        enabled: modelData.enabled
-                        onTriggered: viewBar.moreOptions.trigger(modelData.buttonId)
+                        text: menuEntry.modelData.title
+                        checkable: menuEntry.modelData.checkable
+                        checked: menuEntry.modelData.checked
+                        enabled: menuEntry.modelData.enabled
                     }
-                    onObjectAdded: (index, object) => moreMenu.insertItem(index, object)
+                    onObjectAdded: (index, object) => {
+                        object.triggered.connect(() => viewBar.moreOptions.trigger(object.modelData.buttonId))
+                        moreMenu.insertItem(index, object)
+                    }
                     onObjectRemoved: (index, object) => moreMenu.removeItem(object)
                 }
             }

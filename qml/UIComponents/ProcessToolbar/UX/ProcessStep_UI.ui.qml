@@ -5,12 +5,14 @@ import BasicComponents.Constants
 // underlined; done is green, needs an update amber, error red, running blue.
 Rectangle {
     id: step
-    property alias title: label.text
+    property alias text: label.text
+    // Only the state's mark, where the toolbar is narrow.
+    property bool compact: false
     property color stateColor: BasicConstants.colors.border
     property bool current: false
     property bool hovered: false
 
-    implicitWidth: Math.max(90, label.implicitWidth + 2 * BasicConstants.sizes.margin)
+    implicitWidth: step.compact ? 30 : Math.max(90, label.implicitWidth + 2 * BasicConstants.sizes.margin + 16)
     implicitHeight: 34
     color: step.hovered ? BasicConstants.colors.hover : "transparent"
     radius: BasicConstants.sizes.radius
@@ -29,6 +31,7 @@ Rectangle {
         font.family: BasicConstants.fonts.family
         font.pixelSize: BasicConstants.fonts.normal
         font.bold: step.current
+        visible: !step.compact
         color: BasicConstants.colors.text
     }
     Rectangle {
