@@ -318,4 +318,48 @@ TestCase {
             mouseWheel(view(), view().width / 2, view().height / 2, -240, 120)
         wait(50)
     }
+
+    // Header cells are made by their own views, apart from the table: what they finish must still
+    // hand the keys back to the table, so that Ctrl+A selects the table, not a field's text.
+    function test_9_headerCellsGiveTheKeysBack_data() {
+        return [
+            { tag: "filter accepted", key: Qt.Key_Return, row: -1 },
+            { tag: "filter given up", key: Qt.Key_Escape, row: -1 },
+            { tag: "row number clicked", key: 0, row: 3 }
+        ]
+    }
+
+    function test_9_headerCellsGiveTheKeysBack(data) {
+        if (data.row >= 0) {
+            const numbers = findChild(table, "rowNumbers")
+            tryVerify(() => numbers.itemAtCell(0, data.row) !== null)
+            const number = numbers.itemAtCell(0, data.row)
+            compare(number.width, table.verticalHeaderWidth)
+            clickItem(number)
+            verify(shown.selectionModel.isRowSelected(data.row))
+        } else {
+            // The field the bar shows: the view keeps spare fields of the same name for reuse.
+            const field = findChild(table, "filterBar").itemAtCell(columnOf("name"), 0)
+            clickItem(field)
+            verify(field.activeFocus)
+            keyClick(data.key)
+        }
+        keyClick(Qt.Key_A, Qt.ControlModifier)
+        verify(shown.selectionModel.selectedAll)
+    }
+
+    // The cell under the editor and the cells of the new-row line know it.
+    function test_9_cellsKnowTheEditorAndTheNewRowLine() {
+        clickCell(2, columnOf("name"))
+        keyClick(Qt.Key_F2)
+        tryVerify(() => findChild(table, "cellEditor").visible)
+        verify(cell(2, columnOf("name")).editing)
+        verify(!cell(2, columnOf("length")).editing)
+        keyClick(Qt.Key_Escape)
+        tryVerify(() => !cell(2, columnOf("name")).editing)
+        verify(!cell(0, 0).newRow)
+        view().positionViewAtCell(0, shown.newRowIndex, TableView.Contain)
+        tryVerify(() => cell(shown.newRowIndex, 0) !== null)
+        verify(cell(shown.newRowIndex, 0).newRow)
+    }
 }

@@ -42,12 +42,13 @@ Item {
             Row {
                 Layout.leftMargin: 4
                 Repeater {
-                    model: root.colors
+                    // Mixed colours share the swatch's room.
+                    model: root.colors.map(color => ({ color: color, width: root.colors.length > 1 ? 12 : 28 }))
                     Rectangle {
-                        required property string modelData
-                        width: root.colors.length > 1 ? 12 : 28
+                        required property var modelData
+                        width: modelData.width
                         height: 16
-                        color: modelData
+                        color: modelData.color
                         border.color: BasicConstants.colors.border
                     }
                 }
@@ -65,6 +66,7 @@ Item {
 
     Controls.Popup {
         id: popup
+        objectName: "colorPopup"
         y: swatchButton.height + 2
         width: 4 * 28 + 3 * 4 + 2 * padding
         padding: BasicConstants.sizes.spacing
@@ -84,8 +86,11 @@ Item {
                 spacing: 4
                 Repeater {
                     model: root.palette
+                    onItemAdded: (index, item) => item.chosen.connect(() => root.choose(root.palette[index]))
                     Rectangle {
+                        id: paletteEntry
                         required property string modelData
+                        signal chosen()
                         objectName: "paletteColor_" + modelData
                         width: 28
                         height: 20
@@ -97,7 +102,7 @@ Item {
                             id: paletteMouse
                             anchors.fill: parent
                             hoverEnabled: true
-                            onClicked: root.choose(parent.modelData)
+                            onClicked: paletteEntry.chosen()
                         }
                     }
                 }

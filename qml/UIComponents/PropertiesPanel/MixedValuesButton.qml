@@ -77,12 +77,19 @@ Controls.AbstractButton {
         Column {
             width: parent.width
             Repeater {
-                // Built when opened: every property row has this button, few are mixed.
-                model: list.visible ? root.rowModel.mixedValuesRole : []
+                // Built when opened: every property row has this button, few are mixed. The
+                // entries carry what each line shows; a click is taken up here, by position.
+                model: list.visible ? root.rowModel.mixedValuesRole.map(entry => ({
+                    text: root.entryText(entry),
+                    isAction: root.isAction(entry),
+                    swatch: root.rowModel.typeRole === 6 && !root.isAction(entry) ? entry : ""
+                })) : []
+                onItemAdded: (index, item) => item.clicked.connect(() => root.pick(root.rowModel.mixedValuesRole[index]))
+
                 Controls.ItemDelegate {
+                    id: entryItem
                     required property var modelData
                     required property int index
-                    readonly property bool isAction: root.isAction(modelData)
                     objectName: "mixedValue_" + index
                     width: parent.width
                     height: BasicConstants.sizes.rowHeight
@@ -90,28 +97,27 @@ Controls.AbstractButton {
                     rightPadding: BasicConstants.sizes.margin
                     topPadding: 0
                     bottomPadding: 0
-                    text: root.entryText(modelData)
-                    onClicked: root.pick(modelData)
+                    text: modelData.text
                     contentItem: Text {
-                        text: parent.text
+                        text: entryItem.text
                         verticalAlignment: Text.AlignVCenter
                         elide: Text.ElideRight
                         font.family: BasicConstants.fonts.family
                         font.pixelSize: BasicConstants.fonts.normal
-                        font.italic: parent.isAction
+                        font.italic: entryItem.modelData.isAction
                         color: BasicConstants.colors.text
                     }
 
                     Rectangle {
-                        visible: root.rowModel.typeRole === 6 && !parent.isAction
+                        visible: entryItem.modelData.swatch.length > 0
                         anchors { right: parent.right; rightMargin: 8; verticalCenter: parent.verticalCenter }
                         width: 24
                         height: 14
-                        color: visible ? parent.modelData : "transparent"
+                        color: visible ? entryItem.modelData.swatch : "transparent"
                         border.color: BasicConstants.colors.border
                     }
                     Rectangle {
-                        visible: parent.isAction
+                        visible: entryItem.modelData.isAction
                         anchors { left: parent.left; right: parent.right; top: parent.top }
                         height: 1
                         color: BasicConstants.colors.border

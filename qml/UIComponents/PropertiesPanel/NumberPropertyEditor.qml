@@ -67,16 +67,22 @@ Item {
 
         Controls.Menu {
             id: parameterMenu
+            objectName: "parameterMenu"
             Repeater {
-                model: root.parameterNames
+                // Each entry names the value with its number; choosing one is taken up here.
+                model: root.parameterNames.map((name, index) => name + "  ("
+                    + root.parameterValues[index].toLocaleString(Qt.locale(), 'f', root.rowModel.decimalsRole)
+                    + (root.rowModel.unitsRole.length > 0 ? " " + root.rowModel.unitsRole : "") + ")")
+                onItemAdded: (index, item) => item.triggered.connect(
+                    () => root.panel.setValue(root.parameterValues[index], root.rowModel.uuidRole))
+
                 Controls.MenuItem {
                     required property string modelData
                     required property int index
-                    text: modelData + "  (" + root.parameterValues[index].toLocaleString(Qt.locale(), 'f', root.rowModel.decimalsRole)
-                          + (root.rowModel.unitsRole.length > 0 ? " " + root.rowModel.unitsRole : "") + ")"
+                    objectName: "parameter_" + index
+                    text: modelData
                     font.family: BasicConstants.fonts.family
                     font.pixelSize: BasicConstants.fonts.normal
-                    onTriggered: root.panel.setValue(root.parameterValues[index], root.rowModel.uuidRole)
                 }
             }
         }

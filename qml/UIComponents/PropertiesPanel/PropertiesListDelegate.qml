@@ -10,16 +10,28 @@ Item {
     required property var panel
     readonly property int rowType: model.typeRole
 
-    implicitHeight: loader.item ? loader.item.implicitHeight : 0
+    implicitHeight: loader.implicitHeight
+
+    readonly property string document: rowType === 7 ? "CategoryHeader.qml"
+                                     : rowType === 8 ? "SubcategoryHeader.qml" : "PropertyRow.qml"
+
+    // The row documents take the row and the panel as required properties. A Loader sets those
+    // only when it loads a document by URL, so the document is chosen here and loaded with them,
+    // once the view has handed over the panel.
+    function load() {
+        if (!panel)
+            return
+        loader.setSource(document, document === "SubcategoryHeader.qml" ? { rowModel: model }
+                                                                        : { rowModel: model, panel: panel })
+    }
+
+    onDocumentChanged: load()
+    onPanelChanged: load()
+    Component.onCompleted: load()
 
     Loader {
         id: loader
         width: root.width
         height: root.height
-        sourceComponent: root.rowType === 7 ? categoryHeader : root.rowType === 8 ? subcategoryHeader : propertyRow
     }
-
-    Component { id: categoryHeader; CategoryHeader { rowModel: root.model; panel: root.panel } }
-    Component { id: subcategoryHeader; SubcategoryHeader { rowModel: root.model } }
-    Component { id: propertyRow; PropertyRow { rowModel: root.model; panel: root.panel } }
 }

@@ -68,8 +68,10 @@ PropertiesPanel_Cpp {
                             required property int index
                             width: ListView.view.width
                             text: model.nameRole + "  (" + model.countRole + ")"
-                            font: entityChoice.font
-                            highlighted: entityChoice.highlightedIndex === index
+                            font.family: BasicConstants.fonts.family
+                            font.pixelSize: BasicConstants.fonts.normal
+                            // The pop-up list follows the combo box's highlighted entry.
+                            highlighted: ListView.isCurrentItem
                         }
                         Binding {
                             target: entityChoice
@@ -129,7 +131,7 @@ PropertiesPanel_Cpp {
             }
         }
 
-        ListView {
+        PropertiesList {
             id: list
             objectName: "propertiesList"
             Layout.fillWidth: true
@@ -138,9 +140,11 @@ PropertiesPanel_Cpp {
             model: propertiesPanel.propertiesModel
             boundsBehavior: Flickable.StopAtBounds
             reuseItems: false
+            panel: propertiesPanel
             delegate: PropertiesListDelegate {
                 width: ListView.view.width
-                panel: propertiesPanel
+                // The view attaches itself only after the delegate's first bindings.
+                panel: ListView.view ? (ListView.view as PropertiesList).panel : null
             }
             Controls.ScrollBar.vertical: Controls.ScrollBar { }
 
@@ -178,12 +182,13 @@ PropertiesPanel_Cpp {
                 spacing: BasicConstants.sizes.spacing
                 Repeater {
                     model: propertiesPanel.actionsModel
+                    // By the button's current row: actions before it may come and go.
+                    onItemAdded: (index, item) => item.clicked.connect(() => propertiesPanel.runAction(item.index))
                     BasicButton {
                         required property var model
                         required property int index
                         objectName: "action_" + model.keyRole
                         text: model.nameRole
-                        onClicked: propertiesPanel.runAction(index)
                     }
                 }
             }

@@ -27,27 +27,26 @@ PropertyRow_UI {
         onContainsMouseChanged: if (containsMouse) root.panel.showIllustration(root.rowModel.uuidRole)
     }
 
+    // The editor of the value's type, loaded by URL: a Loader sets an editor's required
+    // properties only then.
+    readonly property string editorDocument: {
+        switch (valueType) {
+        case 1: return "BoolPropertyEditor.qml"
+        case 2:
+        case 3: return "NumberPropertyEditor.qml"
+        case 5: return "ListPropertyEditor.qml"
+        case 6: return "ColorPropertyEditor.qml"
+        default: return "TextPropertyEditor.qml"
+        }
+    }
+    onEditorDocumentChanged: editor.setSource(editorDocument, { rowModel: rowModel, panel: panel })
+    Component.onCompleted: editor.setSource(editorDocument, { rowModel: rowModel, panel: panel })
+
     Loader {
         id: editor
         anchors.fill: parent
-        sourceComponent: {
-            switch (root.valueType) {
-            case 1: return boolEditor
-            case 2:
-            case 3: return numberEditor
-            case 5: return listEditor
-            case 6: return colorEditor
-            default: return textEditor
-            }
-        }
         onActiveFocusChanged: if (activeFocus) root.panel.showIllustration(root.rowModel.uuidRole)
     }
-
-    Component { id: boolEditor; BoolPropertyEditor { rowModel: root.rowModel; panel: root.panel } }
-    Component { id: numberEditor; NumberPropertyEditor { rowModel: root.rowModel; panel: root.panel } }
-    Component { id: listEditor; ListPropertyEditor { rowModel: root.rowModel; panel: root.panel } }
-    Component { id: colorEditor; ColorPropertyEditor { rowModel: root.rowModel; panel: root.panel } }
-    Component { id: textEditor; TextPropertyEditor { rowModel: root.rowModel; panel: root.panel } }
 
     trailing: [
         MixedValuesButton {

@@ -177,7 +177,7 @@ FocusScope {
                     onClicked: { root.selection.selectAll(); keys.forceActiveFocus() }
                 }
             }
-            Controls.HorizontalHeaderView {
+            TableColumnHeaderView {
                 id: titles
                 objectName: "columnTitles"
                 Layout.fillWidth: true
@@ -190,12 +190,17 @@ FocusScope {
                 // A title's own drag moves its column; the view must not take it for a flick.
                 interactive: false
                 clip: true
+                table: root.table
+                onTitleDragMoved: (columnLabel, sceneX) => columnDrag.follow(columnLabel, sceneX)
+                onTitleDropped: (column, sceneX) => { columnDrag.visible = false; d.dropColumn(column, sceneX) }
                 delegate: TableHeaderCell {
                     id: title
-                    table: root.table
-                    implicitHeight: titles.implicitHeight
-                    onDragMoved: sceneX => columnDrag.follow(title.columnLabel, sceneX)
-                    onDropped: sceneX => { columnDrag.visible = false; d.dropColumn(title.column, sceneX) }
+                    // The view hands itself to a cell only after the cell's first bindings.
+                    readonly property TableColumnHeaderView view: TableView.view as TableColumnHeaderView
+                    table: title.view ? title.view.table : null
+                    implicitHeight: title.view ? title.view.implicitHeight : 24
+                    onDragMoved: sceneX => title.view.titleDragMoved(title.columnLabel, sceneX)
+                    onDropped: sceneX => title.view.titleDropped(title.column, sceneX)
                 }
             }
         }
@@ -217,7 +222,7 @@ FocusScope {
                            ? BasicConstants.colors.accent : BasicConstants.colors.textSecondary
                 }
             }
-            Controls.HorizontalHeaderView {
+            TableColumnHeaderView {
                 id: filters
                 objectName: "filterBar"
                 Layout.fillWidth: true
@@ -228,10 +233,14 @@ FocusScope {
                 syncView: tableView
                 interactive: false
                 clip: true
+                table: root.table
+                onCellFinished: keys.forceActiveFocus()
                 delegate: TableFilterCell {
-                    table: root.table
-                    implicitHeight: filters.implicitHeight
-                    onFinished: keys.forceActiveFocus()
+                    id: filter
+                    readonly property TableColumnHeaderView view: TableView.view as TableColumnHeaderView
+                    table: filter.view ? filter.view.table : null
+                    implicitHeight: filter.view ? filter.view.implicitHeight : UIComponentsConstants.tableRowHeight + 2
+                    onFinished: filter.view.cellFinished()
                 }
             }
         }
@@ -242,8 +251,9 @@ FocusScope {
             spacing: 0
 
             // Row numbers; a click selects the row, Shift extends, Ctrl toggles.
-            Controls.VerticalHeaderView {
+            TableRowHeaderView {
                 id: rowNumbers
+                objectName: "rowNumbers"
                 Layout.preferredWidth: root.verticalHeaderWidth
                 Layout.fillHeight: true
                 Layout.preferredHeight: 100
@@ -251,10 +261,15 @@ FocusScope {
                 syncView: tableView
                 interactive: false
                 clip: true
+                selection: root.selection
+                cellWidth: root.verticalHeaderWidth
+                onCellClicked: keys.forceActiveFocus()
                 delegate: TableRowHeaderCell {
-                    selection: root.selection
-                    implicitWidth: root.verticalHeaderWidth
-                    onClicked: keys.forceActiveFocus()
+                    id: rowNumber
+                    readonly property TableRowHeaderView view: TableView.view as TableRowHeaderView
+                    selection: rowNumber.view ? rowNumber.view.selection : null
+                    implicitWidth: rowNumber.view ? rowNumber.view.cellWidth : 32
+                    onClicked: rowNumber.view.cellClicked()
                 }
             }
 
@@ -262,7 +277,7 @@ FocusScope {
                 Layout.fillWidth: true
                 Layout.fillHeight: true
 
-                TableView {
+                ContentTableView {
                     id: tableView
                     objectName: "contentTableView"
                     anchors { fill: parent; rightMargin: d.scrollBarWidth; bottomMargin: d.scrollBarWidth }
@@ -274,9 +289,15 @@ FocusScope {
                     rowHeightProvider: () => root.rowHeight
                     Controls.ScrollBar.vertical: verticalBar
                     Controls.ScrollBar.horizontal: horizontalBar
+                    newRowIndex: root.table ? root.table.newRowIndex : -1
+                    editingRow: editor.visible ? editor.row : -1
+                    editingColumn: editor.visible ? editor.column : -1
                     delegate: TableCell {
-                        newRow: row === (root.table ? root.table.newRowIndex : -1)
-                        editing: editor.visible && editor.row === row && editor.column === column
+                        id: tableCell
+                        readonly property ContentTableView view: TableView.view as ContentTableView
+                        newRow: tableCell.view ? tableCell.row === tableCell.view.newRowIndex : false
+                        editing: tableCell.view ? tableCell.view.editingRow === tableCell.row
+                                                  && tableCell.view.editingColumn === tableCell.column : false
                     }
                 }
 

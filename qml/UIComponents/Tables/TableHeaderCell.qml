@@ -21,7 +21,10 @@ Rectangle {
     objectName: "headerCell_" + column
     implicitWidth: 64
 
+    // A cell may be made before its view hands it the table.
     function load() {
+        if (!cell.table)
+            return
         const header = role => cell.table.headerData(cell.column, Qt.Horizontal, role)
         cell.columnLabel = header(TableContentModel.ColumnLabelRole) ?? ""
         cell.sortOrder = header(TableContentModel.SortOrderRole) ?? TableContentModel.Unsorted
@@ -30,6 +33,7 @@ Rectangle {
     }
     Component.onCompleted: load()
     onColumnChanged: load()
+    onTableChanged: load()
     Connections {
         target: cell.table
         function onHeaderDataChanged(orientation, first, last) {

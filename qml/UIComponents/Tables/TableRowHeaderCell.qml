@@ -25,6 +25,7 @@ Rectangle {
     }
     Component.onCompleted: refresh()
     onRowChanged: refresh()
+    onSelectionChanged: refresh()
     Connections {
         target: cell.selection
         function onRegionCountChanged() { cell.refresh() }
