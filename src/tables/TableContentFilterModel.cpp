@@ -126,10 +126,15 @@ void TableContentFilterModel::setFilterBarModel(FilterBarModel* model)
 
 bool TableContentFilterModel::filterAcceptsRow(int sourceRow, const QModelIndex& sourceParent) const
 {
-    if (m_conditions.empty() || !m_sourceModel || sourceParent.isValid())
+    if (m_conditions.empty() || sourceParent.isValid())
         return true;
-    if (sourceRow == m_sourceModel->newRowIndex())
+    const TableContentModel* source = m_sourceModel.data();
+    if (!source || sourceRow == source->newRowIndex())
         return true;
+    // The proxy asks this for every row: while the answers are current, a look-up is all it costs.
+    if (!m_acceptedRowsStale
+        && m_acceptedRows.IsCurrent(source->Grid().Revision(), source->rowCountSubmitted()))
+        return m_acceptedRows.Accepts(sourceRow);
     FilteringScope filtering(m_filtering);
     // Without its cell a row cannot be judged; it stays visible rather than vanish silently.
     return CatchAtBoundary("TableContentFilterModel::filterAcceptsRow", true, [&]() {

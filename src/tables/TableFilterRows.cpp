@@ -92,15 +92,7 @@ void TableFilterRows::Finish(const TableContentModel& model)
 
 bool TableFilterRows::IsCurrent(const TableContentModel& model) const
 {
-    return m_computed && m_revision == model.Grid().Revision() && m_rowCount == model.rowCountSubmitted();
-}
-
-bool TableFilterRows::Accepts(int row) const
-{
-    const GridContentIndex index = GridContentIndex::FromRow(row);
-    if (row < 0 || index.bulk >= static_cast<int>(m_accepted.size()))
-        return true;
-    return m_accepted[static_cast<std::size_t>(index.bulk)].test(static_cast<std::size_t>(index.offset));
+    return IsCurrent(model.Grid().Revision(), model.rowCountSubmitted());
 }
 
 void TableFilterRows::Reset()

@@ -33,11 +33,22 @@ public:
     void Compute(const TableContentModel& model, const std::vector<Condition>& conditions);
     // Judges again, by a condition narrower than the one it replaces, only the rows that pass now.
     void Narrow(const TableContentModel& model, const Condition& condition);
-    // Whether the answers were computed from the model's current cells and rows.
+    // Whether the answers were computed from the model's current cells and rows, given the revision
+    // of its grid and its number of submitted rows.
+    bool IsCurrent(std::uint64_t gridRevision, int rowCount) const
+    {
+        return m_computed && m_revision == gridRevision && m_rowCount == rowCount;
+    }
     bool IsCurrent(const TableContentModel& model) const;
     // Whether the submitted row passes; rows that could not be judged (a feeder failing to deliver
     // them) pass rather than vanish silently.
-    bool Accepts(int row) const;
+    bool Accepts(int row) const
+    {
+        const GridContentIndex index = GridContentIndex::FromRow(row);
+        if (row < 0 || index.bulk >= static_cast<int>(m_accepted.size()))
+            return true;
+        return m_accepted[static_cast<std::size_t>(index.bulk)].test(static_cast<std::size_t>(index.offset));
+    }
     // Forgets the answers and every folded column (another model).
     void Reset();
 
