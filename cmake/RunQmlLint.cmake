@@ -3,16 +3,12 @@
 # missing property, a failing import. Other findings are printed as information only.
 #
 #   cmake -D QMLLINT=<qmllint> -D IMPORT_DIRS=<dir;dir> -D SOURCE_DIRS=<dir;dir>
-#         -D SOURCE_ROOT=<dir> -D WORK_DIR=<dir> [-D KNOWN_WARNINGS=<file>] -P RunQmlLint.cmake
+#         -D SOURCE_ROOT=<dir> -D WORK_DIR=<dir> -P RunQmlLint.cmake
 #
 # IMPORT_DIRS are the QML import paths a developer's tools use: the build's QML import directory
 # (the native types' descriptions, the host's modules) and the source folder of the component
-# library. qmllint only reads qmldir and qmltypes files; it never loads a plugin.
-#
-# KNOWN_WARNINGS lists findings not fixed yet, one "count<TAB>document<TAB>message" a line, the
-# document relative to SOURCE_ROOT. A document may have at most that many findings with that
-# message: anything new fails, and a line whose findings are gone is reported so it can be removed.
-# With -D WRITE_KNOWN_WARNINGS=ON the file is rewritten from the current findings instead.
+# library. qmllint only reads qmldir and qmltypes files; it never loads a plugin. Documents are
+# named relative to SOURCE_ROOT in the summary.
 foreach(required QMLLINT IMPORT_DIRS SOURCE_DIRS SOURCE_ROOT WORK_DIR)
     if(NOT DEFINED ${required})
         message(FATAL_ERROR "RunQmlLint.cmake needs -D ${required}=...")
@@ -58,10 +54,10 @@ if(NOT EXISTS ${report})
     message(FATAL_ERROR "qmllint wrote no report")
 endif()
 
-# Findings per document and message, as "document<TAB>message" keys with counts.
+# Every finding of a failing category, one line each.
 file(READ ${report} json)
 string(JSON file_count LENGTH "${json}" files)
-set(keys)
+set(findings "")
 if(file_count GREATER 0)
     math(EXPR last_file "${file_count} - 1")
     foreach(f RANGE ${last_file})
@@ -78,70 +74,19 @@ if(file_count GREATER 0)
                 continue()
             endif()
             string(JSON text GET "${json}" files ${f} warnings ${w} message)
+            # A finding about the whole document (a failed import) may have no line.
+            string(JSON line ERROR_VARIABLE no_line GET "${json}" files ${f} warnings ${w} line)
+            if(no_line)
+                set(line "?")
+            endif()
             # Only the first line: the rest repeats the source.
             string(REGEX REPLACE "\n.*" "" text "${text}")
-            string(REPLACE ";" "," text "${text}")
-            set(key "${document}\t${text}")
-            string(MD5 id "${key}")
-            if(NOT DEFINED found_${id})
-                set(found_${id} 0)
-                set(key_${id} "${key}")
-                list(APPEND keys ${id})
-            endif()
-            math(EXPR found_${id} "${found_${id}} + 1")
+            string(APPEND findings "  ${document}:${line}: ${text}\n")
         endforeach()
     endforeach()
 endif()
 
-if(WRITE_KNOWN_WARNINGS)
-    set(lines "")
-    foreach(id ${keys})
-        string(APPEND lines "${found_${id}}\t${key_${id}}\n")
-    endforeach()
-    file(WRITE ${KNOWN_WARNINGS}.lines "${lines}")
-    execute_process(COMMAND sort -t "\t" -k2,2 -k3,3 ${KNOWN_WARNINGS}.lines OUTPUT_VARIABLE sorted)
-    file(REMOVE ${KNOWN_WARNINGS}.lines)
-    file(READ ${KNOWN_WARNINGS} previous)
-    string(REGEX MATCH "^(#[^\n]*\n)*" header "${previous}")
-    file(WRITE ${KNOWN_WARNINGS} "${header}${sorted}")
-    message("qmllint: ${KNOWN_WARNINGS} rewritten")
-    return()
-endif()
-
-set(known_ids)
-if(DEFINED KNOWN_WARNINGS AND EXISTS ${KNOWN_WARNINGS})
-    file(STRINGS ${KNOWN_WARNINGS} known_lines REGEX "^[0-9]+\t")
-    foreach(line ${known_lines})
-        string(REGEX MATCH "^([0-9]+)\t(.*)$" ignored "${line}")
-        string(MD5 id "${CMAKE_MATCH_2}")
-        set(known_${id} ${CMAKE_MATCH_1})
-        set(key_${id} "${CMAKE_MATCH_2}")
-        list(APPEND known_ids ${id})
-    endforeach()
-endif()
-
-set(new_findings "")
-foreach(id ${keys})
-    set(allowed 0)
-    if(DEFINED known_${id})
-        set(allowed ${known_${id}})
-    endif()
-    if(found_${id} GREATER allowed)
-        string(APPEND new_findings "  ${found_${id}}\t${key_${id}} (known: ${allowed})\n")
-    endif()
-endforeach()
-set(fixed_findings "")
-foreach(id ${known_ids})
-    set(found 0)
-    if(DEFINED found_${id})
-        set(found ${found_${id}})
-    endif()
-    if(found LESS known_${id})
-        string(APPEND fixed_findings "  ${found}\t${key_${id}} (known: ${known_${id}})\n")
-    endif()
-endforeach()
-
-if(NOT new_findings STREQUAL "")
+if(NOT findings STREQUAL "")
     # The readable report, with the source lines.
     execute_process(
         COMMAND ${QMLLINT} ${level_arguments} ${import_arguments} ${documents}
@@ -149,11 +94,6 @@ if(NOT new_findings STREQUAL "")
         OUTPUT_VARIABLE output
         ERROR_VARIABLE output)
     message("${output}")
-    message(FATAL_ERROR "qmllint: new problems in the QML documents (${document_count} checked):\n"
-        "${new_findings}")
-endif()
-if(NOT fixed_findings STREQUAL "")
-    message("qmllint: fewer problems than listed in ${KNOWN_WARNINGS}; lower these lines:\n"
-        "${fixed_findings}")
+    message(FATAL_ERROR "qmllint: problems in the QML documents (${document_count} checked):\n${findings}")
 endif()
 message("qmllint: ${document_count} QML documents checked")

@@ -8,6 +8,7 @@ import UIComponents.Constants
 import Orvo.QtExtensions
 import UIComponents.MarkingMenu
 import UIComponents.Spotlight
+import UIComponents.MenuSystem
 import Demo
 
 ApplicationWindow {
@@ -53,11 +54,23 @@ ApplicationWindow {
     // The spotlight search over every page (Ctrl+Space).
     Spotlight {
         objectName: "spotlight"
+        // A table chosen in the search opens on the tables page.
+        onTableRequested: (workstationId, tableId) => {
+            pageList.currentIndex = window.pageIndex("tables")
+            const page = pageStack.pageItem(pageList.currentIndex) as TablesPage
+            if (page)
+                page.showTable(tableId)
+        }
         parent: window.contentItem
         z: 100
         width: Math.min(620, window.width - 40)
         anchors.horizontalCenter: parent.horizontalCenter
         y: 60
+    }
+
+    // The application's menus, built from the shipped menu definition.
+    menuBar: MenuSystem {
+        objectName: "menuSystem"
     }
 
     header: Rectangle {

@@ -218,11 +218,14 @@ Item {
                         spacing: 3
                         Repeater {
                             model: DemoShell.hotkeyHandlerModel
+                            // A row knows its binding only: its command's name comes from here.
+                            onItemAdded: (index, item) => item.commandName = Qt.binding(() => commands.commandName(item.cmdUuid))
                             delegate: Row {
                                 id: binding
                                 required property int index
                                 required property string cmdUuid
                                 required property string cmdShortcut
+                                property string commandName
                                 visible: binding.index < binding.c_shownBindings
                                 spacing: 10
                                 readonly property int c_shownBindings: 5
@@ -232,7 +235,7 @@ Item {
                                     color: BasicConstants.colors.text
                                 }
                                 Text {
-                                    text: commands.commandName(binding.cmdUuid)
+                                    text: binding.commandName
                                     font.family: BasicConstants.fonts.family
                                     font.pixelSize: BasicConstants.fonts.small
                                     color: BasicConstants.colors.textSecondary

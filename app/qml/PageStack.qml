@@ -29,6 +29,7 @@ StackLayout {
         id: pageRepeater
         model: stack.pages
         onItemAdded: (index, item) => {
+            item.pageRequested.connect(stack.pageRequested)
             if (index === stack.currentIndex)
                 item.active = true
         }
@@ -38,12 +39,13 @@ StackLayout {
             objectName: "page_" + modelData.name
             active: false
             source: modelData.source
+            signal pageRequested(string name)
 
             Connections {
                 target: pageLoader.item
                 ignoreUnknownSignals: true
                 function onPageRequested(name) {
-                    stack.pageRequested(name)
+                    pageLoader.pageRequested(name)
                 }
             }
         }

@@ -240,7 +240,7 @@ Item {
                 Layout.maximumHeight: Layout.preferredHeight
                 title: Strings.text("UI_APP_SHORTCUTS_BINDINGS_TITLE")
 
-                ListView {
+                ShortcutBindingsList {
                     id: bindingsList
                     objectName: "hotkeyBindings"
                     anchors { fill: parent; margins: 8 }
@@ -249,8 +249,11 @@ Item {
                         policy: bindingsList.contentHeight > bindingsList.height ? Controls.ScrollBar.AlwaysOn : Controls.ScrollBar.AlwaysOff
                     }
                     model: DemoShell.hotkeyHandlerModel
+                    commandList: commands
                     delegate: RowLayout {
                         id: bindingRow
+                        // The list attaches itself only after the row's first bindings.
+                        readonly property ShortcutBindingsList list: ListView.view as ShortcutBindingsList
                         required property int index
                         required property string cmdUuid
                         required property string cmdShortcut
@@ -264,7 +267,7 @@ Item {
                         }
                         BasicLabel {
                             Layout.fillWidth: true
-                            text: commands.commandName(bindingRow.cmdUuid)
+                            text: bindingRow.list ? bindingRow.list.commandList.commandName(bindingRow.cmdUuid) : ""
                             font.pixelSize: BasicConstants.fonts.small
                         }
                     }

@@ -32,11 +32,11 @@ Rectangle {
                 { preset: ViewControls.Front, lcid: "UI_APP_VIEW_FRONT" },
                 { preset: ViewControls.Side, lcid: "UI_APP_VIEW_SIDE" }
             ]
+            onItemAdded: (index, item) => item.clicked.connect(() => toolbar.controls.showPreset(item.modelData.preset))
             BasicButton {
                 id: presetButton
                 required property var modelData
                 text: Strings.text(presetButton.modelData.lcid)
-                onClicked: toolbar.controls.showPreset(modelData.preset)
             }
         }
         BasicButton {

@@ -38,6 +38,7 @@ void HotkeyHandler::loadConfiguration(const QString&)
     QQmlContext* context = ShellContext();
     m_model = new HotkeyHandlerModel(this, catalog->Get<Kernel::Framework::EventBus>());
     catalog->Inject(*m_model);
+    emit modelChanged();
     if (!context) {
         DebugOutput("The hotkey handler has no QML context to publish its shortcuts in; none will work");
         return;

@@ -79,6 +79,8 @@ private slots:
                 shortcuts += child->inherits("QQuickShortcut") ? 1 : 0;
         }
         QCOMPARE(shortcuts, 3);
+        // The panel's document reads the same model through its typed property
+        QCOMPARE(loader->property("item").value<QObject*>()->property("model").value<QObject*>(), model);
     }
 
     void shouldUseItsEngineWithoutAShellContextAndWithdrawWhenItGoes()

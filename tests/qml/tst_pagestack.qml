@@ -30,6 +30,20 @@ TestCase {
         }
     }
 
+    Component { id: spyComponent; SignalSpy {} }
+
+    // A page's request for another page (the overview's links) reaches the stack's owner.
+    function test_aPageAsksForAnotherPageThroughTheStack() {
+        const holder = createTemporaryObject(stackComponent, testCase)
+        const stack = holder.stack
+        stack.currentIndex = 1
+        tryVerify(() => stack.pageItem(1) !== null)
+        const spy = createTemporaryObject(spyComponent, testCase, { target: stack, signalName: "pageRequested" })
+        stack.pageItem(1).pageRequested("valueentry")
+        compare(spy.count, 1)
+        compare(spy.signalArguments[0][0], "valueentry")
+    }
+
     function test_aPageKeepsWhatWasTypedOnIt() {
         const holder = createTemporaryObject(stackComponent, testCase)
         const stack = holder.stack

@@ -108,4 +108,17 @@ TestCase {
         compare(shortcutOf(owner), data.agree ? "" : "Ctrl+M")
         compare(shortcutOf(taker), data.agree ? "Ctrl+M" : "")
     }
+
+    // A binding's row names the command the shortcut runs.
+    function test_everyBindingNamesItsCommand() {
+        openPage()
+        const bindings = findChild(page, "hotkeyBindings")
+        tryVerify(() => bindings.itemAtIndex(2) !== null)
+        for (let i = 0; i < 3; ++i) {
+            const row = bindings.itemAtIndex(i)
+            const name = commands.commandName(row.cmdUuid)
+            verify(name.length > 0, row.cmdUuid)
+            compare(row.children[1].text, name)
+        }
+    }
 }

@@ -17,9 +17,10 @@ Item {
 
     // The row documents take the row and the panel as required properties. A Loader sets those
     // only when it loads a document by URL, so the document is chosen here and loaded with them,
-    // once the view has handed over the panel.
+    // once the view has handed over the panel. A row's panel does not change after that; its
+    // document is loaded once, however many of the signals below say so.
     function load() {
-        if (!panel)
+        if (!panel || String(loader.source) === String(Qt.resolvedUrl(document)))
             return
         loader.setSource(document, document === "SubcategoryHeader.qml" ? { rowModel: model }
                                                                         : { rowModel: model, panel: panel })

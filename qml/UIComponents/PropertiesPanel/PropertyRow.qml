@@ -39,8 +39,13 @@ PropertyRow_UI {
         default: return "TextPropertyEditor.qml"
         }
     }
-    onEditorDocumentChanged: editor.setSource(editorDocument, { rowModel: rowModel, panel: panel })
-    Component.onCompleted: editor.setSource(editorDocument, { rowModel: rowModel, panel: panel })
+    // Loaded once per document, however many of the signals below say so.
+    function loadEditor() {
+        if (String(editor.source) !== String(Qt.resolvedUrl(editorDocument)))
+            editor.setSource(editorDocument, { rowModel: rowModel, panel: panel })
+    }
+    onEditorDocumentChanged: loadEditor()
+    Component.onCompleted: loadEditor()
 
     Loader {
         id: editor
