@@ -19,7 +19,8 @@ struct CommandInput
     std::wstring id; // stable within the command
     std::wstring nameId; // text identifier of its label
     std::wstring groupId; // text identifier of the group it is shown in (a foldable container)
-    std::wstring category; // the kind of group, for filtering ("geometry", "parameters", "selection")
+    // The kind of group, for filtering: the text identifier of its name (UI_INPUT_CATEGORY_GEOMETRY).
+    std::wstring category;
     Kind kind = Kind::Number;
     std::wstring unit; // of a number ("m", "deg"); empty for a pure number
     double number = 0.0;

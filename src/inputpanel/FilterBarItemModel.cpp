@@ -6,16 +6,6 @@
 
 namespace Orvo::UI::UIComponents {
 
-namespace {
-
-// The text of a kind: "geometry" is named by UI_INPUT_CATEGORY_GEOMETRY.
-QString CategoryTitle(const QString& category)
-{
-    return GetText(QStringLiteral("UI_INPUT_CATEGORY_") + category.toUpper());
-}
-
-} // namespace
-
 FilterBarItemModel::FilterBarItemModel(QObject* parent)
     : QAbstractListModel(parent)
 { }
@@ -116,7 +106,7 @@ QVariant FilterBarItemModel::data(const QModelIndex& index, int role) const
         return item.category;
     case Qt::DisplayRole:
     case TitleRole:
-        return CategoryTitle(item.category);
+        return GetText(item.category);
     case CheckedRole:
         return IsShown(item.category);
     case ContainerCountRole:
