@@ -22,7 +22,10 @@ BulkRows ExpressionFilterCondition::Narrow(const FilterFoldedBulk& bulk, BulkRow
     for (std::size_t row = 0; row < static_cast<std::size_t>(bulk.rows); ++row) {
         if (!candidates.test(row))
             continue;
-        const std::optional<FoldedPair> pair = ComparedNumbers(numbers.Side(row), operand);
+        // Nearly every cell of a numeric column is a number: that case skips the general reading.
+        const std::optional<FoldedPair> pair = m_operandNumber && numbers.hasStrict.test(row)
+            ? std::optional<FoldedPair>(FoldedPair { numbers.strict[row], *m_operandNumber })
+            : ComparedNumbers(numbers.Side(row), operand);
         if (!pair) {
             unjudged.set(row); // compared as texts
             continue;

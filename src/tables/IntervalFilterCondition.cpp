@@ -43,8 +43,21 @@ BulkRows IntervalFilterCondition::Narrow(const FilterFoldedBulk& bulk, BulkRows 
     for (std::size_t row = 0; row < static_cast<std::size_t>(bulk.rows); ++row) {
         if (!candidates.test(row))
             continue;
-        const FoldedSide cell = numbers.Side(row);
         const int precision = numbers.precision[row];
+        // Nearly every cell of a numeric column is a number: that case skips the general reading.
+        if (m_lowerNumber && m_upperNumber && numbers.hasStrict.test(row)) {
+            const double value = numbers.strict[row];
+            const bool aboveLower = m_lowerInclusive
+                ? FilterComparison::IsLessOrEqual(*m_lowerNumber, value, precision)
+                : FilterComparison::IsLess(*m_lowerNumber, value, precision);
+            accepted.set(row,
+                         aboveLower
+                             && (m_upperInclusive
+                                     ? FilterComparison::IsLessOrEqual(value, *m_upperNumber, precision)
+                                     : FilterComparison::IsLess(value, *m_upperNumber, precision)));
+            continue;
+        }
+        const FoldedSide cell = numbers.Side(row);
         const std::optional<FoldedPair> fromLower = ComparedNumbers(lower, cell);
         if (!fromLower) {
             unjudged.set(row);
