@@ -6,12 +6,14 @@
 
 #include "tables/UnicodeStripped.h"
 
+#include "HeapAllocations.h"
 #include <QClipboard>
 #include <QGuiApplication>
 #include <QRandomGenerator>
 #include <QSortFilterProxyModel>
 #include <QStandardItemModel>
 #include <atomic>
+
 #include <benchmark/benchmark.h>
 #include <cstdio>
 #include <malloc.h>
@@ -20,44 +22,6 @@
 #include <string>
 
 using namespace Orvo::UI::UIComponents;
-
-// Heap allocations are counted where they all end up: Qt's containers call malloc directly, the
-// C++ library's operator new calls it too. glibc's own entry points do the work.
-extern "C" {
-void* __libc_malloc(std::size_t size);
-void* __libc_calloc(std::size_t count, std::size_t size);
-void* __libc_realloc(void* pointer, std::size_t size);
-void __libc_free(void* pointer);
-}
-
-namespace {
-std::atomic<std::size_t> g_allocations { 0 };
-}
-
-extern "C" {
-void* malloc(std::size_t size) noexcept
-{
-    g_allocations.fetch_add(1, std::memory_order_relaxed);
-    return __libc_malloc(size);
-}
-
-void* calloc(std::size_t count, std::size_t size) noexcept
-{
-    g_allocations.fetch_add(1, std::memory_order_relaxed);
-    return __libc_calloc(count, size);
-}
-
-void* realloc(void* pointer, std::size_t size) noexcept
-{
-    g_allocations.fetch_add(1, std::memory_order_relaxed);
-    return __libc_realloc(pointer, size);
-}
-
-void free(void* pointer) noexcept
-{
-    __libc_free(pointer);
-}
-}
 
 namespace {
 
@@ -261,13 +225,13 @@ void RunFilters(benchmark::State& state, FedTable& table, const QString& first, 
     table.SetFilter(0, second); // caches the column
     table.model.contentFilterModel()->rowCount();
     bool flip = false;
-    const std::size_t allocationsBefore = g_allocations.load();
+    const std::size_t allocationsBefore = HeapAllocations();
     for (auto _ : state) {
         table.SetFilter(0, flip ? second : first);
         benchmark::DoNotOptimize(table.model.contentFilterModel()->rowCount());
         flip = !flip;
     }
-    state.counters["allocations per cell"] = static_cast<double>(g_allocations.load() - allocationsBefore)
+    state.counters["allocations per cell"] = static_cast<double>(HeapAllocations() - allocationsBefore)
         / (static_cast<double>(state.iterations()) * table.rowCount);
     state.counters["rows shown"] = table.model.contentFilterModel()->rowCount();
     table.SetFilter(0, QString());
