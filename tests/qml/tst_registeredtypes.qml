@@ -17,6 +17,8 @@ TestCase {
             "ViewBar_Cpp", "MoreOptionsMenuModel", "ViewBarUserConfiguration",
             "PropertiesPanelUserConfiguration", "ActionsModel", "EntityModel",
             "PropertiesModel", "PropertiesPanel_Cpp", "PropertiesProxyModel",
+            "InputPanel_Cpp", "InputPanelContainerModel", "InputPanelContainerProxyModel", "FilterBarItemProxyModel",
+            "FilterBarItemModel", "TagModel", "InputPanelUserConfiguration",
             "ComboBoxProxyModel", "FilterItemsProxyModel", "SelectionModel", "SimpleComboBoxProxyModel",
             "CommandMenuHelper",
             "IntegerValidator", "RealValidator", "InlineCalculator", "IllustrationData",
