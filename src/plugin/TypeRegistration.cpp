@@ -2,14 +2,18 @@
 
 #include "StringsQtComponents.h"
 #include "commands/CommandMenuHelper.h"
+#include "commands/HotkeyHandler.h"
 #include "common/ComboBoxProxyModel.h"
 #include "common/FilterItemsProxyModel.h"
 #include "common/SelectionModel.h"
 #include "common/SimpleComboBoxProxyModel.h"
-#include "commands/HotkeyHandler.h"
 #include "markingmenu/MarkingMenu.h"
 #include "markingmenu/MarkingMenuConfig.h"
 #include "markingmenu/MarkingMenuSectionConfig.h"
+#include "notifications/Notifications.h"
+#include "notifications/NotificationsButtonsSelectionModel.h"
+#include "notifications/NotificationsFilterModel.h"
+#include "notifications/NotificationsModel.h"
 #include "properties/ActionsModel.h"
 #include "properties/EntityModel.h"
 #include "properties/IllustrationData.h"
@@ -96,6 +100,11 @@ void RegisterQtComponentsTypes(const char* uri)
     qmlRegisterType<MarkingMenuConfig>(uri, major, minor, "MarkingMenuConfig");
     qmlRegisterType<MarkingMenu>(uri, major, minor, "MarkingMenu_Cpp");
     qmlRegisterType<QtExtensions::FramelessWindow>(uri, major, minor, "FramelessWindow");
+    qmlRegisterType<Notifications>(uri, major, minor, "Notifications_Cpp");
+    qmlRegisterType<NotificationsModel>(uri, major, minor, "NotificationsModel");
+    qmlRegisterType<NotificationsFilterModel>(uri, major, minor, "NotificationsFilterModel");
+    qmlRegisterType<NotificationsButtonsSelectionModel>(uri, major, minor,
+                                                        "NotificationsButtonsSelectionModel");
     qmlRegisterType<GraphicView>(uri, major, minor, "GraphicView_Cpp");
     qmlRegisterType<Viewport>(uri, major, minor, "Viewport");
     qmlRegisterSingletonType<StringsQtComponents>(uri, major, minor, "Strings", CreateStrings);
