@@ -8,6 +8,7 @@ import UIComponents.Constants
 import Orvo.QtExtensions
 import UIComponents.MarkingMenu
 import UIComponents.Spotlight
+import UIComponents.Notifications
 import Demo
 
 ApplicationWindow {
@@ -60,6 +61,18 @@ ApplicationWindow {
         y: 60
     }
 
+    // The host's messages over every page: the centre opens from the bell in the header, toasts
+    // show new ones in the bottom right corner.
+    Notifications {
+        id: notifications
+        objectName: "notifications"
+        parent: window.contentItem
+        anchors.fill: parent
+        z: 90
+        onResultsRequested: pageList.currentIndex = window.pageIndex("analysis")
+        onObjectSelected: pageList.currentIndex = window.pageIndex("model")
+    }
+
     header: Rectangle {
         height: 40
         color: UIComponentsConstants.markingMenuRing
@@ -88,6 +101,10 @@ ApplicationWindow {
                 model: [Strings.text("UI_APP_NUMBER_FORMAT_POINT"), Strings.text("UI_APP_NUMBER_FORMAT_COMMA")]
                 currentIndex: NumberFormat.decimalComma ? 1 : 0
                 onActivated: index => NumberFormat.decimalComma = index === 1
+            }
+            NotificationsButton {
+                objectName: "notificationsButton"
+                centre: notifications
             }
         }
     }
