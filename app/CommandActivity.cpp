@@ -2,6 +2,7 @@
 
 #include "commands/CommandOrigin.h"
 #include "commands/ICommandRepository.h"
+#include "commands/RecentFiles.h"
 #include "events/CommandExecuted.h"
 #include "framework/DefaultServices.h"
 #include "framework/EventBus.h"
@@ -9,7 +10,23 @@
 #include "framework/ServiceCatalog.h"
 #include "qtextensions/File.h"
 
+#include <QDir>
+#include <QStandardPaths>
+
 using namespace Orvo::Kernel::Framework;
+
+namespace {
+
+const wchar_t* const c_saveCommand = L"5d85bcf0-15b0-44be-9bad-202d1b15dcbc";
+
+// Where the demo's model would be saved: a save names its file, so the recent files show it.
+QString DemoDocument()
+{
+    return QDir(QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation))
+        .filePath(QStringLiteral("Building.orvo"));
+}
+
+} // namespace
 
 CommandActivity::CommandActivity(QObject* parent)
     : QObject(parent)
@@ -33,6 +50,10 @@ CommandActivity::CommandActivity(QObject* parent)
                 : QString();
             m_lastParameters = QString::fromStdWString(event.GetParameterString());
             m_lastOrigin = QString::fromStdWString(CommandOrigin::DisplayName(event.GetOrigin()));
+            const auto recentFiles = catalog->Get<RecentFiles>();
+            if (recentFiles && event.GetCommandUuid() == c_saveCommand
+                && RecentFiles::FileOfParameters(event.GetParameterString()).isEmpty())
+                recentFiles->Add(DemoDocument());
             ++m_runCount;
             emit commandRun();
         });

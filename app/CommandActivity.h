@@ -7,7 +7,8 @@
 #include <QtQml/qqmlregistration.h>
 
 // The demo's stand-in for the application's command handlers: it listens for the commands the
-// UI command processor runs and shows the last one, and lets the page lock command groups.
+// UI command processor runs and shows the last one, and lets the page lock command groups. Save
+// stands for saving the demo's model to its document, which the recent files then list.
 class CommandActivity : public QObject
 {
     Q_OBJECT

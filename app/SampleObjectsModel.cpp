@@ -148,6 +148,11 @@ int SampleObjectsModel::selectedCount() const
                              [this](ObjectId id) { return KindOf(id) == m_kind; }));
 }
 
+int SampleObjectsModel::lastSelectedRow() const
+{
+    return m_lastSelectedRow;
+}
+
 void SampleObjectsModel::click(int row, int modifiers)
 {
     if (!m_model || row < 0 || row >= rowCount())
@@ -191,6 +196,7 @@ void SampleObjectsModel::Reload()
     m_rowCount = m_model ? int(m_model->Structure().Count(m_kind)) : 0;
     m_anchorRow = -1;
     endResetModel();
+    UpdateLastSelectedRow();
 }
 
 void SampleObjectsModel::OnSelectionChanged()
@@ -201,6 +207,25 @@ void SampleObjectsModel::OnSelectionChanged()
     if (m_rowCount > 0)
         emit dataChanged(index(0), index(m_rowCount - 1), { selectedRole });
     emit selectedCountChanged();
+    UpdateLastSelectedRow();
+}
+
+void SampleObjectsModel::UpdateLastSelectedRow()
+{
+    int row = -1;
+    if (m_model) {
+        // The host keeps the selection in the order it was made.
+        const std::vector<ObjectId>& selection = m_model->Selection();
+        for (auto id = selection.rbegin(); id != selection.rend() && row < 0; ++id) {
+            if (KindOf(*id) == m_kind)
+                if (const auto index = m_model->IndexOf(*id))
+                    row = int(*index);
+        }
+    }
+    if (row == m_lastSelectedRow)
+        return;
+    m_lastSelectedRow = row;
+    emit lastSelectedRowChanged();
 }
 
 void SampleObjectsModel::OnValuesChanged(const std::vector<ObjectId>& ids)

@@ -23,6 +23,9 @@ class SampleObjectsModel : public QAbstractListModel
     Q_PROPERTY(QStringList kinds READ kinds CONSTANT)
     Q_PROPERTY(QStringList kindNames READ kindNames CONSTANT)
     Q_PROPERTY(int selectedCount READ selectedCount NOTIFY selectedCountChanged)
+    // The row of the object of the listed kind that joined the selection last, -1 when none:
+    // where a list shows a selection made elsewhere (in the view, the tables).
+    Q_PROPERTY(int lastSelectedRow READ lastSelectedRow NOTIFY lastSelectedRowChanged)
 
 public:
     enum Roles
@@ -47,6 +50,7 @@ public:
     QStringList kinds() const;
     QStringList kindNames() const;
     int selectedCount() const;
+    int lastSelectedRow() const;
 
     // A plain click selects the row alone, Ctrl toggles it, Shift extends from the last click.
     Q_INVOKABLE void click(int row, int modifiers);
@@ -57,10 +61,12 @@ public:
 signals:
     void kindChanged();
     void selectedCountChanged();
+    void lastSelectedRowChanged();
 
 private:
     void Reload();
     void OnSelectionChanged();
+    void UpdateLastSelectedRow();
     void OnValuesChanged(const std::vector<Orvo::Kernel::Framework::ObjectId>& ids);
     Orvo::Kernel::Framework::ObjectId IdAt(int row) const;
     QString Summary(Orvo::Kernel::Framework::ObjectId id) const;
@@ -70,6 +76,7 @@ private:
     int m_rowCount = 0;
     std::unordered_set<Orvo::Kernel::Framework::ObjectId> m_selected;
     int m_anchorRow = -1;
+    int m_lastSelectedRow = -1;
     Orvo::Kernel::Framework::EventConnection m_selectionConnection;
     Orvo::Kernel::Framework::EventConnection m_valuesConnection;
     Orvo::Kernel::Framework::EventConnection m_structureConnection;

@@ -1,12 +1,17 @@
 #!/usr/bin/env bash
 # Builds everything and runs every test. "--sanitize" does the same under AddressSanitizer
-# and UndefinedBehaviorSanitizer, in a build directory of its own.
+# and UndefinedBehaviorSanitizer, in a build directory of its own. "--thread-sanitizer" builds
+# only the tests of code that runs on several threads (CTest label "threads") under
+# ThreadSanitizer and runs those.
 set -euo pipefail
 cd "$(dirname "$0")/.."
 preset=ci
-if [ "${1:-}" = "--sanitize" ]; then
-    preset=asan
-fi
+case "${1:-}" in
+    --sanitize) preset=asan ;;
+    --thread-sanitizer) preset=tsan ;;
+    "") ;;
+    *) echo "usage: $0 [--sanitize | --thread-sanitizer]" >&2; exit 2 ;;
+esac
 scripts/install-deps.sh
 cmake --preset "$preset" >/dev/null
 cmake --build --preset "$preset"

@@ -915,6 +915,70 @@
         <source>Enter gives it to the command</source>
         <translation>Enter gives it to the command</translation>
     </message>
+    <message id="UI_COMMAND_OPEN">
+        <source>Open…</source>
+        <translation>Open…</translation>
+    </message>
+    <message id="UI_MENU_OBJECT">
+        <source>Object</source>
+        <translation>Object</translation>
+    </message>
+    <message id="UI_MENU_SEARCH_EMPTY">
+        <source>No command matches</source>
+        <translation>No command matches</translation>
+    </message>
+    <message id="UI_MENU_FILE">
+        <source>File</source>
+        <translation>File</translation>
+    </message>
+    <message id="UI_MENU_EDIT">
+        <source>Edit</source>
+        <translation>Edit</translation>
+    </message>
+    <message id="UI_MENU_MODEL">
+        <source>Model</source>
+        <translation>Model</translation>
+    </message>
+    <message id="UI_MENU_LOADS">
+        <source>Loads</source>
+        <translation>Loads</translation>
+    </message>
+    <message id="UI_MENU_VIEW">
+        <source>View</source>
+        <translation>View</translation>
+    </message>
+    <message id="UI_MENU_SUPPORTS">
+        <source>Supports and hinges</source>
+        <translation>Supports and hinges</translation>
+    </message>
+    <message id="UI_MENU_SEARCH">
+        <source>Search the menus</source>
+        <translation>Search the menus</translation>
+    </message>
+    <message id="UI_SUBCOMMAND_LINE">
+        <source>Line</source>
+        <translation>Line</translation>
+    </message>
+    <message id="UI_SUBCOMMAND_POLYLINE">
+        <source>Polyline</source>
+        <translation>Polyline</translation>
+    </message>
+    <message id="UI_SUBCOMMAND_ARC">
+        <source>Arc</source>
+        <translation>Arc</translation>
+    </message>
+    <message id="UI_SUBCOMMAND_DIVIDE_HALVES">
+        <source>Into halves</source>
+        <translation>Into halves</translation>
+    </message>
+    <message id="UI_SUBCOMMAND_DIVIDE_THIRDS">
+        <source>Into thirds</source>
+        <translation>Into thirds</translation>
+    </message>
+    <message id="UI_SUBCOMMAND_DIVIDE_AT_NODES">
+        <source>At the nodes on it</source>
+        <translation>At the nodes on it</translation>
+    </message>
     <message id="UI_APP_PAGE_COMMANDS">
         <source>Commands</source>
         <translation>Commands</translation>

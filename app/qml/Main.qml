@@ -8,6 +8,7 @@ import UIComponents.Constants
 import Orvo.QtExtensions
 import UIComponents.MarkingMenu
 import UIComponents.Spotlight
+import UIComponents.MenuSystem
 import UIComponents.Notifications
 import Demo
 
@@ -54,6 +55,13 @@ ApplicationWindow {
     // The spotlight search over every page (Ctrl+Space).
     Spotlight {
         objectName: "spotlight"
+        // A table chosen in the search opens on the tables page.
+        onTableRequested: (workstationId, tableId) => {
+            pageList.currentIndex = window.pageIndex("tables")
+            const page = pageStack.pageItem(pageList.currentIndex) as TablesPage
+            if (page)
+                page.showTable(tableId)
+        }
         parent: window.contentItem
         z: 100
         width: Math.min(620, window.width - 40)
@@ -71,6 +79,11 @@ ApplicationWindow {
         z: 90
         onResultsRequested: pageList.currentIndex = window.pageIndex("analysis")
         onObjectSelected: pageList.currentIndex = window.pageIndex("model")
+    }
+
+    // The application's menus, built from the shipped menu definition.
+    menuBar: MenuSystem {
+        objectName: "menuSystem"
     }
 
     header: Rectangle {

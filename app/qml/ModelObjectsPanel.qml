@@ -4,16 +4,19 @@ import Qml.QtComponents
 import Qml.QtBasicComponents
 import BasicComponents.Constants
 import UIComponents.Constants
+import UIComponents.MenuSystem
 import Demo
 
 // Below the model view: the model's objects of one kind, one row each, following the host's
 // selection; a click selects (Ctrl toggles, Shift extends) in the model, and so in the view and
-// the properties panel as well.
+// the properties panel as well. A right click opens the menu of the selected objects.
 BasicPanel {
     id: panel
     title: Strings.text("UI_APP_OBJECTS_TITLE")
 
     SampleObjectsModel { id: objects }
+
+    ObjectContextMenu { id: objectMenu }
 
     // Something selected to begin with, so that the view, this list and the properties panel show
     // one selection.
@@ -82,6 +85,15 @@ BasicPanel {
             boundsBehavior: Flickable.StopAtBounds
             numberWidth: panel.numberWidth
             nameWidth: panel.nameWidth
+            // A selection made in the view or the tables scrolls into sight; one made here is
+            // already in sight, and Contain leaves the list where it is.
+            Connections {
+                target: objects
+                function onLastSelectedRowChanged() {
+                    if (objects.lastSelectedRow >= 0 && objectList.height > 0)
+                        objectList.positionViewAtIndex(objects.lastSelectedRow, ListView.Contain)
+                }
+            }
             delegate: Rectangle {
                 id: objectRow
                 // The list attaches itself only after the row's first bindings.
@@ -134,7 +146,18 @@ BasicPanel {
                     id: rowMouse
                     anchors.fill: parent
                     hoverEnabled: true
-                    onClicked: mouse => objects.click(index, mouse.modifiers)
+                    acceptedButtons: Qt.LeftButton | Qt.RightButton
+                    onClicked: mouse => {
+                        // A right click acts on the selection, which takes the object first
+                        // unless it is part of it already.
+                        if (mouse.button === Qt.RightButton) {
+                            if (!objectRow.selected)
+                                objects.click(objectRow.index, Qt.NoModifier)
+                            objectMenu.popup()
+                            return
+                        }
+                        objects.click(objectRow.index, mouse.modifiers)
+                    }
                 }
             }
         }

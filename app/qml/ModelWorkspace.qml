@@ -6,6 +6,7 @@ import BasicComponents.Constants
 import Orvo.QtExtensions
 import UIComponents.GraphicView
 import UIComponents.PropertiesPanel
+import UIComponents.Tables
 import Demo
 
 // The application's workspace on the one structural model: the model view in the centre, the
@@ -73,8 +74,7 @@ Item {
                     palette.windowText: BasicConstants.colors.text
                     palette.dark: BasicConstants.colors.panelHeader
                     palette.brightText: BasicConstants.colors.textSecondary
-                    // The tables are made when first shown: their 100,000 generated rows are
-                    // not needed before.
+                    // The tables are made when first shown: nothing asks the host for rows before.
                     onCurrentIndexChanged: {
                         if (currentItem === tablesTab)
                             tablesPanel.active = true
@@ -104,11 +104,16 @@ Item {
                         title: ""
                     }
 
+                    // The model's input tables alone: the properties panel beside the view already
+                    // shows the rows selected here.
                     Loader {
                         id: tablesPanel
                         objectName: "tablesPanel"
                         active: false
-                        source: "TablesPage.qml"
+                        sourceComponent: TableInput {
+                            objectName: "workspaceInputTables"
+                            configurationKey: "WorkspaceTableInput"
+                        }
                     }
                 }
             }

@@ -16,6 +16,18 @@ Item {
 
     StructuralMembersFeeder { id: feeder }
 
+    // Shows the input or results table of that identifier (a table chosen in the spotlight).
+    function showTable(tableId) {
+        let input = false
+        for (let i = 0; i < inputPanel.tableIds.length; ++i)
+            input = input || inputPanel.tableIds[i] === tableId
+        source.currentIndex = input ? d.inputTables : d.resultTables
+        if (input)
+            inputPanel.openTable(tableId)
+        else
+            resultPanel.openTable(tableId)
+    }
+
     QtObject {
         id: d
         readonly property int inputTables: 0

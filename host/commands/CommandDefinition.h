@@ -15,6 +15,9 @@ struct CommandDefinition
     std::wstring parameterString; // handed to the command when it runs
     bool enabled = true;
     bool visible = true;
+    // A command that switches something on and off (Show results) shows whether it is on.
+    bool checkable = false;
+    bool checked = false;
 };
 
 // One keyboard binding of the repository, as the hotkey handler mirrors it.

@@ -62,6 +62,9 @@ CommandDefinition ReadCommand(const pugi::xml_node& node)
     command.parameterString = OptionalAttrib(node, CommandRepository::c_parameters);
     command.enabled = OptionalBool(node, CommandRepository::c_enabled, true);
     command.visible = OptionalBool(node, CommandRepository::c_visible, true);
+    command.checkable = OptionalBool(node, CommandRepository::c_checkable, false);
+    // Only a checkable command can be on.
+    command.checked = command.checkable && OptionalBool(node, CommandRepository::c_checked, false);
     if (command.uuid.empty())
         throw std::invalid_argument("A command has an empty uuid.");
     return command;
@@ -168,6 +171,14 @@ bool CommandRepository::SetCommandEnabled(const std::wstring& uuid, bool enabled
 bool CommandRepository::SetCommandVisible(const std::wstring& uuid, bool visible)
 {
     return SetState(uuid, &CommandDefinition::visible, visible);
+}
+
+bool CommandRepository::SetCommandChecked(const std::wstring& uuid, bool checked)
+{
+    const CommandDefinition* command = Find(uuid);
+    if (!command || !command->checkable)
+        return false;
+    return SetState(uuid, &CommandDefinition::checked, checked);
 }
 
 bool CommandRepository::SetState(const std::wstring& uuid, bool CommandDefinition::*state, bool value)

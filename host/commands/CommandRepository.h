@@ -16,10 +16,12 @@ class XMLHandler;
 //
 //   <commands>
 //     <command uuid="..." name="UI_COMMAND_..." icon="Images/..." group="edit"
-//              shortcut="Ctrl+M" parameters="" enabled="true" visible="true"/>
+//              shortcut="Ctrl+M" parameters="" enabled="true" visible="true"
+//              checkable="false" checked="false"/>
 //   </commands>
 //
-// uuid and name are required; the others may be left out (empty, or true for the states).
+// uuid and name are required; the others may be left out (empty, true for enabled and visible,
+// false for checkable and checked).
 // A command that breaks these rules is left out with a message; the rest are kept.
 class HOSTKIT_EXPORT CommandRepository : public ICommandRepository
 {
@@ -36,6 +38,7 @@ public:
     std::vector<ShortcutEntry> GetShortcuts() const override;
     bool SetCommandEnabled(const std::wstring& uuid, bool enabled) override;
     bool SetCommandVisible(const std::wstring& uuid, bool visible) override;
+    bool SetCommandChecked(const std::wstring& uuid, bool checked) override;
     bool SetShortcut(const std::wstring& uuid, const std::wstring& shortcut) override;
     std::vector<std::wstring> FindCommandsWithShortcut(const std::wstring& shortcut) const override;
     bool MoveShortcut(const std::wstring& uuid, const std::wstring& shortcut) override;
@@ -51,6 +54,8 @@ public:
     static constexpr const wchar_t* c_parameters = L"parameters";
     static constexpr const wchar_t* c_enabled = L"enabled";
     static constexpr const wchar_t* c_visible = L"visible";
+    static constexpr const wchar_t* c_checkable = L"checkable";
+    static constexpr const wchar_t* c_checked = L"checked";
 
 private:
     bool Load(const XMLHandler& document, const std::wstring& source);

@@ -30,6 +30,8 @@ public:
     // portable spelling of their key sequence.
     virtual bool SetCommandEnabled(const std::wstring& uuid, bool enabled) = 0;
     virtual bool SetCommandVisible(const std::wstring& uuid, bool visible) = 0;
+    // False as well for a command that is not checkable.
+    virtual bool SetCommandChecked(const std::wstring& uuid, bool checked) = 0;
     virtual bool SetShortcut(const std::wstring& uuid, const std::wstring& shortcut) = 0;
     // Gives the command the shortcut and takes it from every other command that had it, so that
     // one key combination runs one command. An empty shortcut is refused.

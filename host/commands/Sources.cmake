@@ -7,6 +7,7 @@ target_sources(OrvoHostKit PRIVATE
     ${CMAKE_CURRENT_LIST_DIR}/INeedCommandRepository.h
     ${CMAKE_CURRENT_LIST_DIR}/INeedUICommandProcessor.h
     ${CMAKE_CURRENT_LIST_DIR}/IUICommandProcessor.h
+    ${CMAKE_CURRENT_LIST_DIR}/RecentFiles.h ${CMAKE_CURRENT_LIST_DIR}/RecentFiles.cpp
     ${CMAKE_CURRENT_LIST_DIR}/RunningCommand.h ${CMAKE_CURRENT_LIST_DIR}/RunningCommand.cpp
     ${CMAKE_CURRENT_LIST_DIR}/UICommandProcessor.h ${CMAKE_CURRENT_LIST_DIR}/UICommandProcessor.cpp
 )

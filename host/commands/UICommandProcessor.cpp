@@ -2,6 +2,7 @@
 
 #include "ICommandRepository.h"
 #include "events/CommandExecuted.h"
+#include "events/CommandStateChange.h"
 #include "framework/Debug.h"
 #include "framework/EventBus.h"
 
@@ -15,7 +16,40 @@ UICommandProcessor::UICommandProcessor(std::shared_ptr<ICommandRepository> repos
     : m_repository(std::move(repository))
     , m_eventbus(std::move(eventbus))
     , m_undoStack(std::move(undoStack))
-{ }
+{
+    FollowUndoStack();
+}
+
+void UICommandProcessor::FollowUndoStack()
+{
+    if (!m_undoStack || !m_repository)
+        return;
+    // The connections live with the stack and hold the repository weakly: either may outlive
+    // the processor.
+    const std::weak_ptr<ICommandRepository> repository = m_repository;
+    QObject::connect(m_undoStack.get(), &QUndoStack::canUndoChanged, [repository](bool canUndo) {
+        if (auto commands = repository.lock())
+            commands->SetCommandEnabled(c_undoCommand, canUndo);
+    });
+    QObject::connect(m_undoStack.get(), &QUndoStack::canRedoChanged, [repository](bool canRedo) {
+        if (auto commands = repository.lock())
+            commands->SetCommandEnabled(c_redoCommand, canRedo);
+    });
+    if (auto eventbus = m_eventbus.lock()) {
+        m_reloadConnection = eventbus->Subscribe<UI::Events::CommandStateChange>(
+            [this](const UI::Events::CommandStateChange& event) {
+                if (event.GetCommandUuid().empty())
+                    SyncUndoCommands();
+            });
+    }
+    SyncUndoCommands();
+}
+
+void UICommandProcessor::SyncUndoCommands() const
+{
+    m_repository->SetCommandEnabled(c_undoCommand, m_undoStack->canUndo());
+    m_repository->SetCommandEnabled(c_redoCommand, m_undoStack->canRedo());
+}
 
 bool UICommandProcessor::ExecuteCommand(const std::wstring& uuid, const std::wstring& parameterString,
                                         const std::wstring& origin)
@@ -35,6 +69,8 @@ bool UICommandProcessor::ExecuteCommand(const std::wstring& uuid, const std::wst
     DebugOutput(QStringLiteral("Command %1 (%2) run by %3 with parameters \"%4\"")
                     .arg(QString::fromStdWString(command->nameId), commandText, originText,
                          QString::fromStdWString(parameterString)));
+    if (command->checkable)
+        m_repository->SetCommandChecked(uuid, !command->checked);
     WalkUndoStack(uuid);
     if (auto eventbus = m_eventbus.lock())
         eventbus->Post(UI::Events::CommandExecuted(uuid, parameterString, origin));

@@ -2,6 +2,7 @@
 
 #include "HostKitExport.h"
 #include "IUICommandProcessor.h"
+#include "framework/EventConnection.h"
 
 #include <memory>
 
@@ -14,7 +15,8 @@ class ICommandRepository;
 
 // Runs a command by posting Orvo::UI::Events::CommandExecuted, which the application's command
 // handlers act on, and records it on the debugger output. Unknown and disabled commands are
-// refused with a message. Undo and Redo walk the host's undo stack.
+// refused with a message. A checkable command is switched over as it runs. Undo and Redo walk
+// the host's undo stack, and are enabled exactly while it has something to undo or redo.
 class HOSTKIT_EXPORT UICommandProcessor : public IUICommandProcessor
 {
 public:
@@ -29,10 +31,15 @@ public:
 
 private:
     void WalkUndoStack(const std::wstring& uuid) const;
+    // Undo and Redo enabled as the stack allows; again after every reload of the repository,
+    // which brings back the states of the commands file.
+    void FollowUndoStack();
+    void SyncUndoCommands() const;
 
     std::shared_ptr<ICommandRepository> m_repository;
     std::weak_ptr<EventBus> m_eventbus;
     std::shared_ptr<QUndoStack> m_undoStack;
+    EventConnection m_reloadConnection;
 };
 
 } // namespace Orvo::Kernel::Framework

@@ -12,6 +12,7 @@
 #include "commands/CommandRepository.h"
 #include "commands/INeedCommandRepository.h"
 #include "commands/INeedUICommandProcessor.h"
+#include "commands/RecentFiles.h"
 #include "commands/RunningCommand.h"
 #include "commands/UICommandProcessor.h"
 #include "datamodel/Settings.h"
@@ -101,6 +102,9 @@ void DefaultServices::Install(ServiceCatalog& catalog)
     catalog.Register<ICommandRepository>(commandRepository);
     catalog.Register<IUICommandProcessor>(
         std::make_shared<UICommandProcessor>(commandRepository, catalog.Get<EventBus>(), undoStack));
+    catalog.Register<RecentFiles>(std::make_shared<RecentFiles>(
+        Directories::GetDirectory(Directories::DirectoryType::UserConfigurationDirectory) / "RecentFiles.txt",
+        catalog.Get<EventBus>()));
     catalog.Register<RunningCommand>(std::make_shared<RunningCommand>(catalog.Get<EventBus>()));
     catalog.Register<UI::QtExtensions::MessageBoxService>(
         std::make_shared<UI::QtExtensions::MessageBoxService>(catalog.Get<EventBus>()));

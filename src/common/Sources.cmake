@@ -4,5 +4,6 @@ target_sources(QtComponentsCore PRIVATE
     ${CMAKE_CURRENT_LIST_DIR}/FilterItemsProxyModel.h ${CMAKE_CURRENT_LIST_DIR}/FilterItemsProxyModel.cpp
     ${CMAKE_CURRENT_LIST_DIR}/SearchText.h ${CMAKE_CURRENT_LIST_DIR}/SearchText.cpp
     ${CMAKE_CURRENT_LIST_DIR}/SelectionModel.h ${CMAKE_CURRENT_LIST_DIR}/SelectionModel.cpp
+    ${CMAKE_CURRENT_LIST_DIR}/ThreadHandOver.h ${CMAKE_CURRENT_LIST_DIR}/ThreadHandOver.cpp
     ${CMAKE_CURRENT_LIST_DIR}/SimpleComboBoxProxyModel.h ${CMAKE_CURRENT_LIST_DIR}/SimpleComboBoxProxyModel.cpp
 )

@@ -10,6 +10,10 @@
 #include "markingmenu/MarkingMenu.h"
 #include "markingmenu/MarkingMenuConfig.h"
 #include "markingmenu/MarkingMenuSectionConfig.h"
+#include "menusystem/MenuItemsFilterModel.h"
+#include "menusystem/MenuItemsModel.h"
+#include "menusystem/MenuSystem.h"
+#include "menusystem/SubcommandsModel.h"
 #include "notifications/Notifications.h"
 #include "notifications/NotificationsButtonsSelectionModel.h"
 #include "notifications/NotificationsFilterModel.h"
@@ -67,6 +71,10 @@ void RegisterQtComponentsTypes(const char* uri)
     qmlRegisterType<Spotlight>(uri, major, minor, "Spotlight_Cpp");
     qmlRegisterType<SpotlightModel>(uri, major, minor, "SpotlightModel");
     qmlRegisterType<SpotlightProxyModel>(uri, major, minor, "SpotlightProxyModel");
+    qmlRegisterType<SubcommandsModel>(uri, major, minor, "SubcommandsModel");
+    qmlRegisterType<MenuItemsModel>(uri, major, minor, "MenuItemsModel");
+    qmlRegisterType<MenuItemsFilterModel>(uri, major, minor, "MenuItemsFilterModel");
+    qmlRegisterType<MenuSystem>(uri, major, minor, "MenuSystem_Cpp");
     qmlRegisterType<HotkeyHandler>(uri, major, minor, "HotkeyHandler_Cpp");
     qmlRegisterType<PropertiesPanelUserConfiguration>(uri, major, minor, "PropertiesPanelUserConfiguration");
     qmlRegisterType<ActionsModel>(uri, major, minor, "ActionsModel");

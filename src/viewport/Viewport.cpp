@@ -3,6 +3,7 @@
 #include "Convert.h"
 #include "OrvoInteractionStrategy.h"
 #include "ViewportLogging.h"
+#include "common/ThreadHandOver.h"
 #include "framework/ServiceCatalog.h"
 #include "graphic/GraphicTypes.h"
 #include "graphic/GraphicsService.h"
@@ -215,20 +216,27 @@ void Viewport::Invalidate()
 
 void Viewport::OnTimer()
 {
+    ThreadHandOver::Take();
     if (Graphic::RenderTarget* target = GetRenderTarget()) {
         target->SetForceSingleCompleteFrame(true);
         target->DrawRequest();
     }
+    ThreadHandOver::Give();
 }
 
 void Viewport::OnWindowChanged(QQuickWindow* window)
 {
     disconnect(m_windowClosingConnection);
     disconnect(m_sceneGraphInvalidatedConnection);
+    disconnect(m_beforeSyncConnection);
     m_windowClosingConnection = {};
     m_sceneGraphInvalidatedConnection = {};
+    m_beforeSyncConnection = {};
     if (!window)
         return;
+    // Emitted on the GUI thread just before it waits for the render thread to synchronise.
+    m_beforeSyncConnection = connect(
+        window, &QQuickWindow::afterAnimating, this, []() { ThreadHandOver::Give(); }, Qt::DirectConnection);
     m_windowClosingConnection
         = connect(window, &QQuickWindow::closing, this, &Viewport::OnParentWindowIsClosing);
     // The window's scene graph can also go without the window closing (a window grabbed before
@@ -273,8 +281,10 @@ void Viewport::releaseResources()
 
 void Viewport::geometryChange(const QRectF& newGeometry, const QRectF& oldGeometry)
 {
+    ThreadHandOver::Take();
     QQuickItem::geometryChange(newGeometry, oldGeometry);
     ApplySize(newGeometry);
+    ThreadHandOver::Give();
 }
 
 void Viewport::ApplySize(const QRectF& geometry)
@@ -337,8 +347,25 @@ void Viewport::wheelEvent(QWheelEvent* event)
     MouseWheel(host);
 }
 
+bool Viewport::event(QEvent* event)
+{
+    // Input reaches the engine here, between two synchronisations with the render thread; a
+    // window grab synchronises without the window's afterAnimating, so the hand-over is marked
+    // after each event as well.
+    ThreadHandOver::Take();
+    const bool handled = QQuickItem::event(event);
+    ThreadHandOver::Give();
+    return handled;
+}
+
 QSGNode* Viewport::updatePaintNode(QSGNode*, UpdatePaintNodeData*)
 {
+    ThreadHandOver::Take();
+    // Runs while the GUI thread waits, which it stops doing when this returns.
+    struct GiveBack
+    {
+        ~GiveBack() { ThreadHandOver::Give(); }
+    } giveBack;
     try {
         if (!Initialized())
             Initialize();

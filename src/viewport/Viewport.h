@@ -81,6 +81,7 @@ protected:
     void mouseReleaseEvent(QMouseEvent* event) override;
     void mouseDoubleClickEvent(QMouseEvent* event) override;
     void wheelEvent(QWheelEvent* event) override;
+    bool event(QEvent* event) override;
     QSGNode* updatePaintNode(QSGNode* oldNode, UpdatePaintNodeData* data) override;
 
 private:
@@ -89,6 +90,7 @@ private:
     void EmitOnItemThread(void (Viewport::*signal)());
 
     QMetaObject::Connection m_windowClosingConnection;
+    QMetaObject::Connection m_beforeSyncConnection;
     QMetaObject::Connection m_sceneGraphInvalidatedConnection;
     int m_rendererType = 1;
     bool m_textureSized = false;

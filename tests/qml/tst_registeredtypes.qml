@@ -10,7 +10,8 @@ TestCase {
 
     function test_create_data() {
         return [
-            "Spotlight_Cpp", "SpotlightModel", "SpotlightProxyModel", "HotkeyHandler_Cpp", "PropertiesPanelUserConfiguration", "ActionsModel", "EntityModel",
+            "Spotlight_Cpp", "SpotlightModel", "SpotlightProxyModel", "SubcommandsModel",
+            "MenuItemsModel", "MenuItemsFilterModel", "MenuSystem_Cpp", "HotkeyHandler_Cpp", "PropertiesPanelUserConfiguration", "ActionsModel", "EntityModel",
             "PropertiesModel", "PropertiesPanel_Cpp", "PropertiesProxyModel",
             "ComboBoxProxyModel", "FilterItemsProxyModel", "SelectionModel", "SimpleComboBoxProxyModel",
             "CommandMenuHelper",

@@ -1,5 +1,7 @@
 #include "RenderingJobs.h"
 
+#include "common/ThreadHandOver.h"
+
 #include <QQuickItem>
 #include <QRunnable>
 
@@ -23,11 +25,14 @@ QQuickWindow::RenderStage RenderingJobs::CurrentStage() const
 void RenderingJobs::RequestPerform()
 {
     std::weak_ptr<void> lifetime = LifetimeToken();
+    QQuickWindow* window = m_item->window();
     QRunnable* runnable = QRunnable::create([this, lifetime]() {
+        ThreadHandOver::Take();
         if (!lifetime.expired())
             Perform();
     });
-    m_item->window()->scheduleRenderJob(runnable, CurrentStage());
+    ThreadHandOver::Give();
+    window->scheduleRenderJob(runnable, CurrentStage());
 }
 
 } // namespace Orvo::UI::UIComponents

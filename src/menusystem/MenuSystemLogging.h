@@ -1,0 +1,26 @@
+#pragma once
+
+#include <QLoggingCategory>
+#include <exception>
+
+namespace Orvo::UI::UIComponents {
+
+// Messages of the menus ("orvo.ui.menusystem").
+Q_DECLARE_LOGGING_CATEGORY(lcMenuSystem)
+
+void LogMenuFailure(const char* operation, const std::exception& error);
+
+// Runs one operation of the menus for a caller that cannot take an exception (QML, the host's
+// configuration loading): the failure is logged at warning level and the caller gets the fallback.
+template<typename Result, typename Operation>
+Result CatchAtMenuBoundary(const char* operation, Result fallback, Operation&& run)
+{
+    try {
+        return run();
+    } catch (const std::exception& error) {
+        LogMenuFailure(operation, error);
+        return fallback;
+    }
+}
+
+} // namespace Orvo::UI::UIComponents
