@@ -8,12 +8,14 @@
 #include "tables/TableCellContent.h"
 #include "tables/UnicodeStripped.h"
 
+#include "HeapAllocations.h"
 #include <QCollator>
 #include <QLocale>
 #include <QRandomGenerator>
 #include <QString>
 #include <algorithm>
 #include <atomic>
+
 #include <benchmark/benchmark.h>
 #include <cstdio>
 #include <cstdlib>
@@ -21,44 +23,6 @@
 #include <numeric>
 #include <string>
 #include <vector>
-
-// Heap allocations are counted where they all end up: Qt's containers call malloc directly, the
-// C++ library's operator new calls it too. glibc's own entry points do the work.
-extern "C" {
-void* __libc_malloc(std::size_t size);
-void* __libc_calloc(std::size_t count, std::size_t size);
-void* __libc_realloc(void* pointer, std::size_t size);
-void __libc_free(void* pointer);
-}
-
-namespace {
-std::atomic<std::size_t> g_allocations { 0 };
-}
-
-extern "C" {
-void* malloc(std::size_t size) noexcept
-{
-    g_allocations.fetch_add(1, std::memory_order_relaxed);
-    return __libc_malloc(size);
-}
-
-void* calloc(std::size_t count, std::size_t size) noexcept
-{
-    g_allocations.fetch_add(1, std::memory_order_relaxed);
-    return __libc_calloc(count, size);
-}
-
-void* realloc(void* pointer, std::size_t size) noexcept
-{
-    g_allocations.fetch_add(1, std::memory_order_relaxed);
-    return __libc_realloc(pointer, size);
-}
-
-void free(void* pointer) noexcept
-{
-    __libc_free(pointer);
-}
-}
 
 using namespace Orvo::UI::UIComponents;
 
@@ -71,12 +35,12 @@ class AllocationCount
 {
 public:
     AllocationCount()
-        : m_start(g_allocations.load())
+        : m_start(HeapAllocations())
     { }
 
     void Report(benchmark::State& state, double itemsPerIteration) const
     {
-        const double allocations = double(g_allocations.load() - m_start);
+        const double allocations = double(HeapAllocations() - m_start);
         state.counters["allocs_per_item"] = allocations / (double(state.iterations()) * itemsPerIteration);
     }
 

@@ -1,40 +1,16 @@
 #include "FilterItemsProxyModel.h"
 
-#include "SearchText.h"
 #include "SelectionModel.h"
 
 namespace Orvo::UI::UIComponents {
 
 FilterItemsProxyModel::FilterItemsProxyModel(QObject* parent)
-    : QSortFilterProxyModel(parent)
+    : SearchableProxyModel(parent)
 {
-    const auto announce = [this] {
-        emit countChanged();
-        emit checkStateChanged();
-    };
-    connect(this, &QAbstractItemModel::rowsInserted, this, announce);
-    connect(this, &QAbstractItemModel::rowsRemoved, this, announce);
-    connect(this, &QAbstractItemModel::modelReset, this, announce);
-    connect(this, &QAbstractItemModel::layoutChanged, this, announce);
-}
-
-void FilterItemsProxyModel::setTextRole(const QString& textRole)
-{
-    if (m_textRole == textRole)
-        return;
-    m_textRole = textRole;
-    Refilter();
-    emit textRoleChanged();
-}
-
-void FilterItemsProxyModel::setSearchText(const QString& searchText)
-{
-    if (m_searchText == searchText)
-        return;
-    m_searchText = searchText;
-    m_words = SearchText::Words(searchText);
-    Refilter();
-    emit searchTextChanged();
+    connect(this, &QAbstractItemModel::rowsInserted, this, &FilterItemsProxyModel::checkStateChanged);
+    connect(this, &QAbstractItemModel::rowsRemoved, this, &FilterItemsProxyModel::checkStateChanged);
+    connect(this, &QAbstractItemModel::modelReset, this, &FilterItemsProxyModel::checkStateChanged);
+    connect(this, &QAbstractItemModel::layoutChanged, this, &FilterItemsProxyModel::checkStateChanged);
 }
 
 void FilterItemsProxyModel::setSelectionModel(SelectionModel* selectionModel)
@@ -114,19 +90,13 @@ QVariant FilterItemsProxyModel::data(const QModelIndex& index, int role) const
 {
     if (role == SelectedRole)
         return index.isValid() && m_selectionModel && m_selectionModel->isSelected(KeyOfRow(index.row()));
-    if (role == ItemTextRole) {
-        const int textRole = roleNames().key(m_textRole.toUtf8(), -1);
-        return textRole < 0 || textRole == ItemTextRole
-            ? QVariant()
-            : QSortFilterProxyModel::data(index, textRole).toString();
-    }
-    return QSortFilterProxyModel::data(index, role);
+    return SearchableProxyModel::data(index, role);
 }
 
 bool FilterItemsProxyModel::setData(const QModelIndex& index, const QVariant& value, int role)
 {
     if (role != SelectedRole)
-        return QSortFilterProxyModel::setData(index, value, role);
+        return SearchableProxyModel::setData(index, value, role);
     if (!index.isValid() || !m_selectionModel || !KeyOfRow(index.row()).isValid())
         return false;
     m_selectionModel->setSelected(KeyOfRow(index.row()), value.toBool());
@@ -135,9 +105,8 @@ bool FilterItemsProxyModel::setData(const QModelIndex& index, const QVariant& va
 
 QHash<int, QByteArray> FilterItemsProxyModel::roleNames() const
 {
-    QHash<int, QByteArray> names = QSortFilterProxyModel::roleNames();
+    QHash<int, QByteArray> names = SearchableProxyModel::roleNames();
     names.insert(SelectedRole, "selected");
-    names.insert(ItemTextRole, "itemText");
     return names;
 }
 
@@ -148,12 +117,7 @@ bool FilterItemsProxyModel::filterAcceptsRow(int sourceRow, const QModelIndex& s
     const QModelIndex item = sourceModel()->index(sourceRow, 0);
     if (m_onlySelected && !(m_selectionModel && m_selectionModel->isSelected(m_selectionModel->KeyOf(item))))
         return false;
-    if (m_words.isEmpty())
-        return true;
-    const int role = sourceModel()->roleNames().key(m_textRole.toUtf8(), -1);
-    if (role < 0)
-        return false;
-    return SearchText::MatchQuality(SearchText::Folded(item.data(role).toString()), m_words) > 0;
+    return Words().isEmpty() || MatchQuality(sourceRow) > 0;
 }
 
 } // namespace Orvo::UI::UIComponents

@@ -1,11 +1,9 @@
 #pragma once
 
+#include "SearchableProxyModel.h"
 #include "SelectionModel.h"
 
 #include <QPointer>
-#include <QSortFilterProxyModel>
-#include <QStringList>
-#include <QtQml/qqmlregistration.h>
 
 namespace Orvo::UI::UIComponents {
 
@@ -13,40 +11,30 @@ namespace Orvo::UI::UIComponents {
 // in source order, each with a "selected" role read from and written to selectionModel. Its
 // checkState and setAllSelected act on the items shown, so that "select all" after a search
 // selects what the search found and leaves the other choices as they were.
-class FilterItemsProxyModel : public QSortFilterProxyModel
+class FilterItemsProxyModel : public Orvo::UI::UIComponents::SearchableProxyModel
 {
     Q_OBJECT
     QML_NAMED_ELEMENT(FilterItemsProxyModel)
-    Q_PROPERTY(QString textRole READ textRole WRITE setTextRole NOTIFY textRoleChanged)
-    Q_PROPERTY(QString searchText READ searchText WRITE setSearchText NOTIFY searchTextChanged)
     Q_PROPERTY(Orvo::UI::UIComponents::SelectionModel* selectionModel READ selectionModel WRITE
                    setSelectionModel NOTIFY selectionModelChanged)
     // Shows only the selected items (a "show selected" switch).
     Q_PROPERTY(bool onlySelected READ onlySelected WRITE setOnlySelected NOTIFY onlySelectedChanged)
-    Q_PROPERTY(int count READ count NOTIFY countChanged)
     // Of the items shown: none, some or all selected.
     Q_PROPERTY(Qt::CheckState checkState READ checkState NOTIFY checkStateChanged)
 
 public:
-    enum Roles
+    enum FilterItemsRoles
     {
         SelectedRole = Qt::UserRole + 1000,
-        // The text of textRole under one name, so that a delegate need not know which role it is.
-        ItemTextRole,
     };
-    Q_ENUM(Roles)
+    Q_ENUM(FilterItemsRoles)
 
     explicit FilterItemsProxyModel(QObject* parent = nullptr);
 
-    QString textRole() const { return m_textRole; }
-    void setTextRole(const QString& textRole);
-    QString searchText() const { return m_searchText; }
-    void setSearchText(const QString& searchText);
     SelectionModel* selectionModel() const { return m_selectionModel; }
     void setSelectionModel(SelectionModel* selectionModel);
     bool onlySelected() const { return m_onlySelected; }
     void setOnlySelected(bool onlySelected);
-    int count() const { return rowCount(); }
     Qt::CheckState checkState() const;
 
     // Selects or deselects every item shown.
@@ -58,24 +46,18 @@ public:
     QHash<int, QByteArray> roleNames() const override;
 
 signals:
-    void textRoleChanged();
-    void searchTextChanged();
     void selectionModelChanged();
     void onlySelectedChanged();
-    void countChanged();
     void checkStateChanged();
 
 protected:
     bool filterAcceptsRow(int sourceRow, const QModelIndex& sourceParent) const override;
+    void Refilter() override;
 
 private:
     QVariant KeyOfRow(int row) const;
     void OnSelectionChanged();
-    void Refilter();
 
-    QString m_textRole = QStringLiteral("display");
-    QString m_searchText;
-    QStringList m_words;
     QPointer<SelectionModel> m_selectionModel;
     QMetaObject::Connection m_selectionConnection;
     bool m_onlySelected = false;

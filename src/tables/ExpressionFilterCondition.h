@@ -28,6 +28,8 @@ public:
     ExpressionFilterCondition(QString const& operand, Comparer comparer);
 
     bool Evaluate(TableCellContent const& cell) const override;
+    unsigned FoldedParts() const override { return FilterColumnFold::NumbersPart; }
+    BulkRows Narrow(const FilterFoldedBulk& bulk, BulkRows candidates, BulkRows& unjudged) const override;
 
 private:
     bool Equal(ComparedText const& a, ComparedText const& b, int precision) const;
@@ -36,6 +38,7 @@ private:
 
     std::wstring m_operand;
     std::optional<double> m_operandNumber; // read once rather than for every cell
+    std::optional<double> m_operandLenient; // and as read against a number
     Comparer m_comparer;
 };
 

@@ -46,24 +46,13 @@ struct NumberPair
     bool BothRead() const { return a && b; }
 };
 
-// A text that is not a number on its own (a cell showing "12.5 kN") still counts as the number
-// from its first digit on when the other side is a number. Signs and decimal points before that
-// digit are dropped on purpose ("-12 kN" reads as 12): saved filters depend on this reading.
-std::optional<double> ReadLeniently(std::wstring_view text)
-{
-    const std::size_t firstDigit = text.find_first_of(L"0123456789");
-    if (firstDigit == std::wstring_view::npos)
-        return std::nullopt;
-    return FilterComparison::ReadNumber(text.substr(firstDigit), true);
-}
-
 NumberPair ReadNumbers(ComparedText const& a, ComparedText const& b)
 {
     NumberPair numbers { a.number, b.number };
     if (numbers.a && !numbers.b)
-        numbers.b = ReadLeniently(b.text);
+        numbers.b = FilterComparison::ReadLeniently(b.text);
     else if (!numbers.a && numbers.b)
-        numbers.a = ReadLeniently(a.text);
+        numbers.a = FilterComparison::ReadLeniently(a.text);
     return numbers;
 }
 
@@ -89,6 +78,17 @@ std::optional<double> FilterComparison::ReadNumber(std::wstring_view text, bool 
     return ConvertNumber(buffer, text.size(), allowTrailingCharacters);
 }
 
+// A text that is not a number on its own (a cell showing "12.5 kN") still counts as the number
+// from its first digit on when the other side is a number. Signs and decimal points before that
+// digit are dropped on purpose ("-12 kN" reads as 12): saved filters depend on this reading.
+std::optional<double> FilterComparison::ReadLeniently(std::wstring_view text)
+{
+    const std::size_t firstDigit = text.find_first_of(L"0123456789");
+    if (firstDigit == std::wstring_view::npos)
+        return std::nullopt;
+    return ReadNumber(text.substr(firstDigit), true);
+}
+
 double FilterComparison::Tolerance(int precision)
 {
     static constexpr std::array<double, 15> c_unitOfLastDecimal { 1.0,   1e-1,  1e-2,  1e-3,  1e-4,
@@ -103,7 +103,7 @@ bool FilterComparison::IsLess(ComparedText const& a, ComparedText const& b, int 
 {
     const NumberPair numbers = ReadNumbers(a, b);
     if (numbers.BothRead())
-        return *numbers.b - *numbers.a > Tolerance(precision);
+        return IsLess(*numbers.a, *numbers.b, precision);
     return NaturalTextOrder::Before(a.text, b.text);
 }
 
@@ -111,7 +111,7 @@ bool FilterComparison::IsLessOrEqual(ComparedText const& a, ComparedText const& 
 {
     const NumberPair numbers = ReadNumbers(a, b);
     if (numbers.BothRead())
-        return *numbers.b - *numbers.a > -Tolerance(precision);
+        return IsLessOrEqual(*numbers.a, *numbers.b, precision);
     return !NaturalTextOrder::Before(b.text, a.text);
 }
 
@@ -119,7 +119,7 @@ bool FilterComparison::Equal(ComparedText const& a, ComparedText const& b, int p
 {
     const NumberPair numbers = ReadNumbers(a, b);
     if (numbers.BothRead())
-        return Tolerance(precision) >= std::abs(*numbers.a - *numbers.b);
+        return Equal(*numbers.a, *numbers.b, precision);
     return !NaturalTextOrder::Before(a.text, b.text) && !NaturalTextOrder::Before(b.text, a.text);
 }
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cmath>
 #include <optional>
 #include <string_view>
 
@@ -15,6 +16,33 @@ struct ComparedText
     std::optional<double> number;
 };
 
+// One side of a comparison of folded numbers: the number the whole text is, and else the number
+// read from its first digit on.
+struct FoldedSide
+{
+    std::optional<double> strict;
+    std::optional<double> lenient;
+};
+
+struct FoldedPair
+{
+    double a;
+    double b;
+};
+
+// The numbers two sides compare as, as ReadNumbers reads them for the texts; nothing when they
+// compare as texts.
+inline std::optional<FoldedPair> ComparedNumbers(FoldedSide const& a, FoldedSide const& b)
+{
+    if (a.strict && b.strict)
+        return FoldedPair { *a.strict, *b.strict };
+    if (a.strict && b.lenient)
+        return FoldedPair { *a.strict, *b.lenient };
+    if (b.strict && a.lenient)
+        return FoldedPair { *a.lenient, *b.strict };
+    return std::nullopt;
+}
+
 // The comparisons that filter conditions make between a cell's text and a filter operand:
 // as numbers when both sides read as numbers (within the tolerance of the shown decimals),
 // otherwise in the natural text order.
@@ -25,6 +53,9 @@ public:
     // whole text must be the number (leading blanks are fine). Never throws.
     static std::optional<double> ReadNumber(std::wstring_view text, bool allowTrailingCharacters);
 
+    // The number a text is from its first digit on, for a side compared with a number.
+    static std::optional<double> ReadLeniently(std::wstring_view text);
+
     // One unit of the last shown decimal, or the machine epsilon without a usable precision.
     static double Tolerance(int precision);
 
@@ -32,6 +63,11 @@ public:
     static bool IsLess(ComparedText const& a, ComparedText const& b, int precision);
     static bool IsLessOrEqual(ComparedText const& a, ComparedText const& b, int precision);
     static bool Equal(ComparedText const& a, ComparedText const& b, int precision);
+
+    // The same comparisons once both sides are numbers.
+    static bool IsLess(double a, double b, int precision) { return b - a > Tolerance(precision); }
+    static bool IsLessOrEqual(double a, double b, int precision) { return b - a > -Tolerance(precision); }
+    static bool Equal(double a, double b, int precision) { return Tolerance(precision) >= std::abs(a - b); }
 };
 
 } // namespace Orvo::UI::UIComponents

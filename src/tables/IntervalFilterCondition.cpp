@@ -29,6 +29,55 @@ IntervalFilterCondition::IntervalFilterCondition(ValueLimit lower, ValueLimit up
         std::swap(m_lowerNumber, m_upperNumber);
         std::swap(m_lowerInclusive, m_upperInclusive);
     }
+    m_lowerLenient = FilterComparison::ReadLeniently(m_lower);
+    m_upperLenient = FilterComparison::ReadLeniently(m_upper);
+}
+
+BulkRows IntervalFilterCondition::Narrow(const FilterFoldedBulk& bulk, BulkRows candidates,
+                                         BulkRows& unjudged) const
+{
+    const FilterFoldedBulk::Numbers& numbers = *bulk.numbers;
+    const FoldedSide lower { m_lowerNumber, m_lowerLenient };
+    const FoldedSide upper { m_upperNumber, m_upperLenient };
+    BulkRows accepted;
+    for (std::size_t row = 0; row < static_cast<std::size_t>(bulk.rows); ++row) {
+        if (!candidates.test(row))
+            continue;
+        const int precision = numbers.precision[row];
+        // Nearly every cell of a numeric column is a number: that case skips the general reading.
+        if (m_lowerNumber && m_upperNumber && numbers.hasStrict.test(row)) {
+            const double value = numbers.strict[row];
+            const bool aboveLower = m_lowerInclusive
+                ? FilterComparison::IsLessOrEqual(*m_lowerNumber, value, precision)
+                : FilterComparison::IsLess(*m_lowerNumber, value, precision);
+            accepted.set(row,
+                         aboveLower
+                             && (m_upperInclusive
+                                     ? FilterComparison::IsLessOrEqual(value, *m_upperNumber, precision)
+                                     : FilterComparison::IsLess(value, *m_upperNumber, precision)));
+            continue;
+        }
+        const FoldedSide cell = numbers.Side(row);
+        const std::optional<FoldedPair> fromLower = ComparedNumbers(lower, cell);
+        if (!fromLower) {
+            unjudged.set(row);
+            continue;
+        }
+        const bool aboveLower = m_lowerInclusive
+            ? FilterComparison::IsLessOrEqual(fromLower->a, fromLower->b, precision)
+            : FilterComparison::IsLess(fromLower->a, fromLower->b, precision);
+        if (!aboveLower)
+            continue;
+        const std::optional<FoldedPair> toUpper = ComparedNumbers(cell, upper);
+        if (!toUpper) {
+            unjudged.set(row);
+            continue;
+        }
+        accepted.set(row,
+                     m_upperInclusive ? FilterComparison::IsLessOrEqual(toUpper->a, toUpper->b, precision)
+                                      : FilterComparison::IsLess(toUpper->a, toUpper->b, precision));
+    }
+    return accepted;
 }
 
 bool IntervalFilterCondition::Evaluate(TableCellContent const& cell) const

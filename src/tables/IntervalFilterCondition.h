@@ -21,6 +21,8 @@ public:
     IntervalFilterCondition(ValueLimit lower, ValueLimit upper);
 
     bool Evaluate(TableCellContent const& cell) const override;
+    unsigned FoldedParts() const override { return FilterColumnFold::NumbersPart; }
+    BulkRows Narrow(const FilterFoldedBulk& bulk, BulkRows candidates, BulkRows& unjudged) const override;
 
 private:
     std::wstring m_lower;
@@ -30,6 +32,8 @@ private:
     // The bounds read as numbers once rather than for every cell.
     std::optional<double> m_lowerNumber;
     std::optional<double> m_upperNumber;
+    std::optional<double> m_lowerLenient;
+    std::optional<double> m_upperLenient;
 };
 
 } // namespace Orvo::UI::UIComponents

@@ -9,6 +9,9 @@ target_sources(QtComponentsCore PRIVATE
     ${CMAKE_CURRENT_LIST_DIR}/ValueTextFilterCondition.h ${CMAKE_CURRENT_LIST_DIR}/ValueTextFilterCondition.cpp
     ${CMAKE_CURRENT_LIST_DIR}/FilterComparison.h ${CMAKE_CURRENT_LIST_DIR}/FilterComparison.cpp
     ${CMAKE_CURRENT_LIST_DIR}/FilterCellText.h ${CMAKE_CURRENT_LIST_DIR}/FilterCellText.cpp
+    ${CMAKE_CURRENT_LIST_DIR}/FilterColumnFold.h ${CMAKE_CURRENT_LIST_DIR}/FilterColumnFold.cpp
+    ${CMAKE_CURRENT_LIST_DIR}/FilterTextScan.h ${CMAKE_CURRENT_LIST_DIR}/FilterTextScan.cpp
+    ${CMAKE_CURRENT_LIST_DIR}/TableFilterRows.h ${CMAKE_CURRENT_LIST_DIR}/TableFilterRows.cpp
     ${CMAKE_CURRENT_LIST_DIR}/NaturalTextOrder.h
     ${CMAKE_CURRENT_LIST_DIR}/UnicodeStripped.h ${CMAKE_CURRENT_LIST_DIR}/UnicodeStripped.cpp
     ${CMAKE_CURRENT_LIST_DIR}/TablesLogging.h ${CMAKE_CURRENT_LIST_DIR}/TablesLogging.cpp

@@ -73,6 +73,8 @@ void TableContentFilterModel::SetSourceModel(TableContentModel* model)
     if (m_sourceModel)
         disconnect(m_sourceModel, nullptr, this, nullptr);
     m_sourceModel = model;
+    m_acceptedRows.Reset();
+    m_acceptedRowsStale = true;
     // Connected before the proxy connects itself: when columns move, the conditions must follow
     // their columns before the proxy re-tests its rows for the new layout.
     // So must the filter texts of columns that the source is about to remove, which the proxy drops
@@ -124,24 +126,53 @@ void TableContentFilterModel::setFilterBarModel(FilterBarModel* model)
 
 bool TableContentFilterModel::filterAcceptsRow(int sourceRow, const QModelIndex& sourceParent) const
 {
-    if (m_conditions.empty() || !m_sourceModel || sourceParent.isValid())
+    if (m_conditions.empty() || sourceParent.isValid())
         return true;
-    if (sourceRow == m_sourceModel->newRowIndex())
+    const TableContentModel* source = m_sourceModel.data();
+    if (!source || sourceRow == source->newRowIndex())
         return true;
+    // The proxy asks this for every row: while the answers are current, a look-up is all it costs.
+    if (!m_acceptedRowsStale
+        && m_acceptedRows.IsCurrent(source->Grid().Revision(), source->rowCountSubmitted()))
+        return m_acceptedRows.Accepts(sourceRow);
     FilteringScope filtering(m_filtering);
     // Without its cell a row cannot be judged; it stays visible rather than vanish silently.
     return CatchAtBoundary("TableContentFilterModel::filterAcceptsRow", true, [&]() {
-        for (const auto& [column, entry] : m_conditions) {
-            const int sourceColumn = MapColumnToSource(column);
-            if (sourceColumn < 0)
-                continue;
-            const TableCellContent& cell = m_sourceModel->GetFilledCell(
-                sourceRow, sourceColumn, TableContentModel::ContentRequest::WholeColumn);
-            if (!entry.condition->Evaluate(cell))
-                return false;
-        }
-        return true;
+        UpdateAcceptedRows();
+        return m_acceptedRows.Accepts(sourceRow);
     });
+}
+
+TableFilterRows::Condition TableContentFilterModel::SourceCondition(int column,
+                                                                    const ColumnCondition& entry) const
+{
+    return { MapColumnToSource(column),
+             m_sourceModel
+                 ->headerData(MapColumnToSource(column), Qt::Horizontal, TableContentModel::ColumnIdRole)
+                 .toString(),
+             entry.condition.get() };
+}
+
+// The proxy asks row by row; the answers are worked out for all rows at the first question after a
+// change and only looked up for the others.
+void TableContentFilterModel::UpdateAcceptedRows() const
+{
+    if (!m_acceptedRowsStale && m_acceptedRows.IsCurrent(*m_sourceModel))
+        return;
+    m_acceptedRowsStale = false;
+    if (m_narrowedColumn && m_acceptedRows.IsCurrent(*m_sourceModel)) {
+        const auto narrowed = m_conditions.find(*m_narrowedColumn);
+        if (narrowed != m_conditions.end() && MapColumnToSource(narrowed->first) >= 0) {
+            m_acceptedRows.Narrow(*m_sourceModel, SourceCondition(narrowed->first, narrowed->second));
+            return;
+        }
+    }
+    std::vector<TableFilterRows::Condition> conditions;
+    for (const auto& [column, entry] : m_conditions) {
+        if (MapColumnToSource(column) >= 0)
+            conditions.push_back(SourceCondition(column, entry));
+    }
+    m_acceptedRows.Compute(*m_sourceModel, conditions);
 }
 
 void TableContentFilterModel::onFilterBarDataChanged(const QModelIndex& topLeft,
@@ -152,6 +183,8 @@ void TableContentFilterModel::onFilterBarDataChanged(const QModelIndex& topLeft,
         return;
     const std::vector<QString> ids = GetColumnsIds(0, columnCount() - 1);
     bool changed = false;
+    // A text that only grew ("ka", then "kal") re-checks only the rows still shown.
+    std::optional<int> narrowed;
     for (int row = topLeft.row(); row <= bottomRight.row(); ++row) {
         const bool hadCondition = m_conditions.count(row) > 0;
         const QString text = m_filterBarModel->index(row).data(FilterBarModel::ConditionTextRole).toString();
@@ -163,11 +196,16 @@ void TableContentFilterModel::onFilterBarDataChanged(const QModelIndex& topLeft,
         }
         const QString id
             = row < static_cast<int>(ids.size()) ? ids[static_cast<std::size_t>(row)] : QString();
+        const bool narrows = topLeft.row() == bottomRight.row() && hadCondition && !m_acceptedRowsStale
+            && m_sourceModel && m_acceptedRows.IsCurrent(*m_sourceModel)
+            && condition->IsNarrowerThan(*m_conditions[row].condition);
+        if (narrows)
+            narrowed = row;
         m_conditions[row] = ColumnCondition { id, std::move(condition) };
         changed = true;
     }
     if (changed)
-        InvalidateFiltering();
+        InvalidateFiltering(narrowed);
 }
 
 void TableContentFilterModel::onFilterBarModelChanged()
@@ -182,8 +220,10 @@ void TableContentFilterModel::onFilterBarModelChanged()
                            { FilterBarModel::ConditionTextRole });
 }
 
-void TableContentFilterModel::InvalidateFiltering()
+void TableContentFilterModel::InvalidateFiltering(std::optional<int> narrowedColumn)
 {
+    m_acceptedRowsStale = true;
+    m_narrowedColumn = narrowedColumn;
     // Hidden rows must not stay selected: every change of the filters starts a new selection.
     m_selectionModel->select(QModelIndex(), TableSelectionModel::CleanSelect, false);
     // The proxy's incremental re-filter announces every gap between kept rows as a removal or an
@@ -221,6 +261,8 @@ bool TableContentFilterModel::RekeyConditions()
 
 void TableContentFilterModel::RebuildColumnsMapping()
 {
+    m_acceptedRowsStale = true;
+    m_narrowedColumn.reset();
     const int sourceCount = m_sourceModel ? m_sourceModel->columnCount() : 0;
     QHash<QString, int> sourceColumnOfId;
     for (int column = 0; column < sourceCount; ++column)
@@ -430,8 +472,9 @@ int TableContentFilterModel::getColumnMaxWidth() const
 QString TableContentFilterModel::typedTextRefusal(const QModelIndex& index, const QString& text) const
 {
     const QModelIndex source = mapToSource(index);
-    return m_sourceModel && source.isValid() ? m_sourceModel->TypedTextRefusal(source.row(), source.column(), text)
-                                             : QString();
+    return m_sourceModel && source.isValid()
+        ? m_sourceModel->TypedTextRefusal(source.row(), source.column(), text)
+        : QString();
 }
 
 void TableContentFilterModel::confirmUpdate()

@@ -2,6 +2,7 @@
 
 #include "FilterBarModel.h"
 #include "FilterConditionBase.h"
+#include "TableFilterRows.h"
 #include "TableSelectionFilterModel.h"
 
 #include <QPointer>
@@ -9,6 +10,7 @@
 #include <QtQml/qqmlregistration.h>
 #include <map>
 #include <memory>
+#include <optional>
 #include <vector>
 
 namespace Orvo::UI::UIComponents {
@@ -131,12 +133,16 @@ private:
     };
 
     void RebuildColumnsMapping();
-    void InvalidateFiltering();
+    // narrowedColumn: the one column whose condition only narrowed.
+    void InvalidateFiltering(std::optional<int> narrowedColumn = std::nullopt);
     int MapColumnToSource(int column) const;
     int MapColumnFromSource(int column) const;
     std::vector<QString> GetColumnsIds(int first, int last) const;
     // Columns came, went or moved: each condition follows its column by id. True when one was lost.
     bool RekeyConditions();
+    // Brings the precomputed answers of filterAcceptsRow up to date.
+    void UpdateAcceptedRows() const;
+    TableFilterRows::Condition SourceCondition(int column, const ColumnCondition& entry) const;
 
     QPointer<TableContentModel> m_sourceModel;
     QPointer<FilterBarModel> m_filterBarModel;
@@ -146,6 +152,11 @@ private:
     // Filter texts of columns that the source removes only to add them again (column id -> text).
     QHash<QString, QString> m_textsOfReturningColumns;
     mutable bool m_filtering = false;
+    mutable TableFilterRows m_acceptedRows;
+    // The answers no longer follow the conditions; recomputed at the next row asked.
+    mutable bool m_acceptedRowsStale = true;
+    // The one column whose condition only narrowed since the answers were computed.
+    std::optional<int> m_narrowedColumn;
     TableSelectionFilterModel* m_selectionModel = nullptr;
 };
 

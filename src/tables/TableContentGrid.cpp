@@ -12,6 +12,7 @@ void TableContentGrid::Reset(int columnCount, int bulkCount)
 {
     m_columnCount = columnCount;
     m_bulks.clear();
+    ++m_revision;
     AppendBulks(bulkCount);
 }
 
@@ -19,6 +20,7 @@ void TableContentGrid::AppendBulks(int count)
 {
     for (int i = 0; i < count; ++i)
         m_bulks.emplace_back(static_cast<std::size_t>(m_columnCount));
+    ++m_revision;
 }
 
 void TableContentGrid::AppendColumns(int count)
@@ -26,6 +28,7 @@ void TableContentGrid::AppendColumns(int count)
     m_columnCount += count;
     for (Bulk& bulk : m_bulks)
         bulk.resize(static_cast<std::size_t>(m_columnCount));
+    ++m_revision;
 }
 
 void TableContentGrid::RemoveColumn(int column)
@@ -35,6 +38,7 @@ void TableContentGrid::RemoveColumn(int column)
     for (Bulk& bulk : m_bulks)
         bulk.erase(bulk.begin() + column);
     --m_columnCount;
+    ++m_revision;
 }
 
 void TableContentGrid::MoveColumn(int srcIndex, int dstIndex)
@@ -44,6 +48,7 @@ void TableContentGrid::MoveColumn(int srcIndex, int dstIndex)
             "Expected range for source index is [0, count - 1] and destination index is [0, count]");
     for (Bulk& bulk : m_bulks)
         MoveVectorElement(bulk, srcIndex, dstIndex);
+    ++m_revision;
 }
 
 bool TableContentGrid::IsFilled(GridContentIndex index, int column) const
@@ -52,6 +57,27 @@ bool TableContentGrid::IsFilled(GridContentIndex index, int column) const
         return false;
     return m_bulks[static_cast<std::size_t>(index.bulk)][static_cast<std::size_t>(column)].filled.test(
         static_cast<std::size_t>(index.offset));
+}
+
+bool TableContentGrid::IsBulkFilled(int bulk, int column, int rows) const
+{
+    if (bulk < 0 || bulk >= GetBulkCount() || column < 0 || column >= m_columnCount)
+        return false;
+    const BulkColumn& bulkColumn = m_bulks[static_cast<std::size_t>(bulk)][static_cast<std::size_t>(column)];
+    if (rows == GridContentIndex::c_rowsCountBulk)
+        return bulkColumn.filled.all();
+    for (int offset = 0; offset < rows; ++offset) {
+        if (!bulkColumn.filled.test(static_cast<std::size_t>(offset)))
+            return false;
+    }
+    return true;
+}
+
+std::uint64_t TableContentGrid::Revision(int bulk, int column) const
+{
+    if (bulk < 0 || bulk >= GetBulkCount() || column < 0 || column >= m_columnCount)
+        return 0;
+    return m_bulks[static_cast<std::size_t>(bulk)][static_cast<std::size_t>(column)].revision;
 }
 
 const TableCellContent& TableContentGrid::GetCell(GridContentIndex index, int column) const
@@ -97,6 +123,7 @@ void TableContentGrid::StoreRows(int firstRow, int column, std::vector<TableCell
             bulkColumn.cells[static_cast<std::size_t>(index.offset + i)] = *source;
             bulkColumn.filled.set(static_cast<std::size_t>(index.offset + i));
         }
+        bulkColumn.revision = ++m_revision;
         row += chunk;
         left -= chunk;
     }

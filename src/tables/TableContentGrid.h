@@ -2,8 +2,10 @@
 
 #include "TableCellContent.h"
 
+#include <algorithm>
 #include <bitset>
 #include <cstddef>
+#include <cstdint>
 #include <vector>
 
 namespace Orvo::UI::UIComponents {
@@ -38,12 +40,27 @@ public:
     const TableCellContent& GetCell(GridContentIndex index, int column) const;
     // Stores a run of a column's cells from firstRow on, bulk by bulk; the bulks must exist.
     void StoreRows(int firstRow, int column, std::vector<TableCellContent>&& cells);
+    // Whether the first `rows` rows of the bulk all have the column's cell.
+    bool IsBulkFilled(int bulk, int column, int rows) const;
+    // The number of rows the bulk holds when the table has rowCount rows.
+    static int BulkRowCount(int bulk, int rowCount)
+    {
+        return std::max(
+            0,
+            std::min(GridContentIndex::c_rowsCountBulk, rowCount - bulk * GridContentIndex::c_rowsCountBulk));
+    }
+    // Changes whenever the cells of the bulk's column change; never repeats within one grid, so that
+    // whatever was derived from the cells can tell whether it is still current. 0: nothing stored.
+    std::uint64_t Revision(int bulk, int column) const;
+    // Changes whenever any cell, bulk or column changes.
+    std::uint64_t Revision() const { return m_revision; }
 
 private:
     struct BulkColumn
     {
         std::vector<TableCellContent> cells;
         std::bitset<GridContentIndex::c_rowsCountBulk> filled;
+        std::uint64_t revision = 0;
     };
     using Bulk = std::vector<BulkColumn>;
 
@@ -52,6 +69,7 @@ private:
 
     int m_columnCount = 0;
     std::vector<Bulk> m_bulks;
+    std::uint64_t m_revision = 0;
 };
 
 } // namespace Orvo::UI::UIComponents

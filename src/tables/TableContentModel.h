@@ -224,6 +224,8 @@ public:
     void ClearContent();
     // The cached cell; a default cell when the rows were never delivered. Never asks the feeder.
     TableCellContent GetCell(int row, int column) const;
+    // The cached cells as they stand; never asks the feeder.
+    const TableContentGrid& Grid() const { return m_grid; }
     // The cell, asking the feeder for the rows first when they are missing.
     const TableCellContent& GetFilledCell(int row, int column, ContentRequest request) const
     {

@@ -1,4 +1,5 @@
 #include "common/ComboBoxProxyModel.h"
+#include "common/FilterItemsProxyModel.h"
 #include "common/SimpleComboBoxProxyModel.h"
 
 #include <QAbstractItemModelTester>
@@ -24,6 +25,45 @@ std::unique_ptr<QStandardItemModel> MakeSource(const QStringList& names)
     }
     return model;
 }
+
+// Like QML's ListModel: no roles until the first item, and a reset may bring others.
+class LateRolesModel : public QAbstractListModel
+{
+public:
+    int rowCount(const QModelIndex& parent = {}) const override
+    {
+        return parent.isValid() ? 0 : int(m_texts.size());
+    }
+    QVariant data(const QModelIndex& index, int role) const override
+    {
+        return index.isValid() && role == m_role ? QVariant(m_texts.at(index.row())) : QVariant();
+    }
+    QHash<int, QByteArray> roleNames() const override
+    {
+        if (m_texts.isEmpty())
+            return {};
+        return { { m_role, m_roleName } };
+    }
+    void Append(const QString& text)
+    {
+        beginInsertRows({}, rowCount(), rowCount());
+        m_texts << text;
+        endInsertRows();
+    }
+    // The same texts under another role number.
+    void Rename(int role, const QByteArray& name)
+    {
+        beginResetModel();
+        m_role = role;
+        m_roleName = name;
+        endResetModel();
+    }
+
+private:
+    QStringList m_texts;
+    int m_role = Qt::UserRole + 7;
+    QByteArray m_roleName = "name";
+};
 
 QStringList Shown(const ComboBoxProxyModel& model)
 {
@@ -134,6 +174,41 @@ private slots:
         QCOMPARE(model.count(), c_sections.size());
         model.setSearchText(QStringLiteral("ipe"));
         QCOMPARE(model.count(), 0);
+    }
+
+    // Both searchable lists look their text role up once, which must not keep a lookup made
+    // before the source knew its roles, nor one of roles a reset replaced.
+    void shouldFindTheTextRoleOnceTheSourceKnowsIt_data()
+    {
+        QTest::addColumn<bool>("multiSelect");
+        QTest::newRow("combo box") << false;
+        QTest::newRow("multi-select") << true;
+    }
+
+    void shouldFindTheTextRoleOnceTheSourceKnowsIt()
+    {
+        QFETCH(bool, multiSelect);
+        LateRolesModel source;
+        std::unique_ptr<SearchableProxyModel> model;
+        if (multiSelect)
+            model = std::make_unique<FilterItemsProxyModel>();
+        else
+            model = std::make_unique<ComboBoxProxyModel>();
+        QAbstractItemModelTester tester(model.get(), QAbstractItemModelTester::FailureReportingMode::QtTest);
+        model->setTextRole(QStringLiteral("name"));
+        model->setSourceModel(&source);
+        model->setSearchText(QStringLiteral("ipe"));
+        QCOMPARE(model->count(), 0);
+        source.Append(QStringLiteral("HEA 200"));
+        source.Append(QStringLiteral("IPE 200"));
+        QCOMPARE(model->count(), 1);
+        QCOMPARE(model->index(0, 0).data(SearchableProxyModel::ItemTextRole).toString(),
+                 QStringLiteral("IPE 200"));
+
+        source.Rename(Qt::UserRole + 9, "name");
+        QCOMPARE(model->count(), 1);
+        QCOMPARE(model->index(0, 0).data(SearchableProxyModel::ItemTextRole).toString(),
+                 QStringLiteral("IPE 200"));
     }
 
     void simpleModelShouldSearchItsItems_data()
