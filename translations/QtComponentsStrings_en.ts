@@ -919,6 +919,30 @@
         <source>Open…</source>
         <translation>Open…</translation>
     </message>
+    <message id="UI_INPUT_CATEGORY_GEOMETRY">
+        <source>Geometry</source>
+        <translation>Geometry</translation>
+    </message>
+    <message id="UI_INPUT_CATEGORY_PARAMETERS">
+        <source>Parameters</source>
+        <translation>Parameters</translation>
+    </message>
+    <message id="UI_INPUT_CATEGORY_SELECTION">
+        <source>Selection</source>
+        <translation>Selection</translation>
+    </message>
+    <message id="UI_INPUT_GROUP_VECTOR">
+        <source>Vector</source>
+        <translation>Vector</translation>
+    </message>
+    <message id="UI_INPUT_GROUP_COPIES">
+        <source>Copies</source>
+        <translation>Copies</translation>
+    </message>
+    <message id="UI_INPUT_GROUP_OBJECTS">
+        <source>Objects</source>
+        <translation>Objects</translation>
+    </message>
     <message id="UI_MENU_OBJECT">
         <source>Object</source>
         <translation>Object</translation>

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "CommandInput.h"
 #include "HostKitExport.h"
 
 #include <memory>
@@ -26,6 +27,19 @@ public:
     void SetPrompt(const std::wstring& prompt, int valueCount);
     void Finish();
 
+    // What else the command takes (its parameters, its picked objects), in the order shown. A
+    // change of the whole list and of one value are each announced (RunningCommandInputsChanged).
+    void SetInputs(std::vector<CommandInput> inputs);
+    const std::vector<CommandInput>& Inputs() const { return m_inputs; }
+    const CommandInput* FindInput(const std::wstring& id) const;
+    // Each returns false, changing nothing, for an unknown input, one of another kind, a value
+    // that is not finite or a choice out of range.
+    bool SetNumber(const std::wstring& id, double value);
+    bool SetChoice(const std::wstring& id, int choice);
+    bool RemoveObject(const std::wstring& id, int objectId);
+    // The user confirmed the inputs (Apply): the command's handler acts on them.
+    bool Apply();
+
     bool IsRunning() const { return !m_commandUuid.empty(); }
     const std::wstring& CommandUuid() const { return m_commandUuid; }
     const std::wstring& Prompt() const { return m_prompt; }
@@ -44,6 +58,10 @@ private:
     std::wstring m_commandUuid;
     std::wstring m_prompt;
     int m_valueCount = 0;
+    std::vector<CommandInput> m_inputs;
+
+    CommandInput* Find(const std::wstring& id, CommandInput::Kind kind);
+    void AnnounceInput(const std::wstring& id) const;
 };
 
 } // namespace Orvo::Kernel::Framework

@@ -1,5 +1,6 @@
 target_sources(OrvoHostKit PRIVATE
     ${CMAKE_CURRENT_LIST_DIR}/CommandDefinition.h
+    ${CMAKE_CURRENT_LIST_DIR}/CommandInput.h
     ${CMAKE_CURRENT_LIST_DIR}/CommandHistory.h ${CMAKE_CURRENT_LIST_DIR}/CommandHistory.cpp
     ${CMAKE_CURRENT_LIST_DIR}/CommandOrigin.h ${CMAKE_CURRENT_LIST_DIR}/CommandOrigin.cpp
     ${CMAKE_CURRENT_LIST_DIR}/CommandRepository.h ${CMAKE_CURRENT_LIST_DIR}/CommandRepository.cpp

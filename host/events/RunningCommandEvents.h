@@ -39,4 +39,35 @@ private:
     std::vector<double> m_values;
 };
 
+// The running command's inputs changed: all of them (an empty input identifier) or one value.
+class RunningCommandInputsChanged
+{
+public:
+    RunningCommandInputsChanged(std::wstring commandUuid, std::wstring inputId)
+        : m_commandUuid(std::move(commandUuid))
+        , m_inputId(std::move(inputId))
+    { }
+
+    const std::wstring& GetCommandUuid() const { return m_commandUuid; }
+    const std::wstring& GetInputId() const { return m_inputId; }
+
+private:
+    std::wstring m_commandUuid;
+    std::wstring m_inputId;
+};
+
+// The user confirmed the running command's inputs: its handler acts on them.
+class CommandInputsApplied
+{
+public:
+    explicit CommandInputsApplied(std::wstring commandUuid)
+        : m_commandUuid(std::move(commandUuid))
+    { }
+
+    const std::wstring& GetCommandUuid() const { return m_commandUuid; }
+
+private:
+    std::wstring m_commandUuid;
+};
+
 } // namespace Orvo::UI::Events

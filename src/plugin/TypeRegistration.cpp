@@ -7,6 +7,13 @@
 #include "common/FilterItemsProxyModel.h"
 #include "common/SelectionModel.h"
 #include "common/SimpleComboBoxProxyModel.h"
+#include "inputpanel/FilterBarItemModel.h"
+#include "inputpanel/FilterBarItemProxyModel.h"
+#include "inputpanel/InputPanel.h"
+#include "inputpanel/InputPanelContainerModel.h"
+#include "inputpanel/InputPanelContainerProxyModel.h"
+#include "inputpanel/InputPanelUserConfiguration.h"
+#include "inputpanel/TagModel.h"
 #include "markingmenu/MarkingMenu.h"
 #include "markingmenu/MarkingMenuConfig.h"
 #include "markingmenu/MarkingMenuSectionConfig.h"
@@ -82,6 +89,13 @@ void RegisterQtComponentsTypes(const char* uri)
     qmlRegisterType<PropertiesModel>(uri, major, minor, "PropertiesModel");
     qmlRegisterType<PropertiesPanel>(uri, major, minor, "PropertiesPanel_Cpp");
     qmlRegisterType<PropertiesProxyModel>(uri, major, minor, "PropertiesProxyModel");
+    qmlRegisterType<InputPanel>(uri, major, minor, "InputPanel_Cpp");
+    qmlRegisterType<InputPanelContainerModel>(uri, major, minor, "InputPanelContainerModel");
+    qmlRegisterType<InputPanelContainerProxyModel>(uri, major, minor, "InputPanelContainerProxyModel");
+    qmlRegisterType<FilterBarItemProxyModel>(uri, major, minor, "FilterBarItemProxyModel");
+    qmlRegisterType<FilterBarItemModel>(uri, major, minor, "FilterBarItemModel");
+    qmlRegisterType<TagModel>(uri, major, minor, "TagModel");
+    qmlRegisterType<InputPanelUserConfiguration>(uri, major, minor, "InputPanelUserConfiguration");
     qmlRegisterType<ComboBoxProxyModel>(uri, major, minor, "ComboBoxProxyModel");
     qmlRegisterType<FilterItemsProxyModel>(uri, major, minor, "FilterItemsProxyModel");
     qmlRegisterType<SelectionModel>(uri, major, minor, "SelectionModel");

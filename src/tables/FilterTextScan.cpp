@@ -59,13 +59,13 @@ template<typename Char> std::size_t ScanEnd(const Scan<Char>& scan)
     return scan.offsets[scan.rows];
 }
 
-template<typename Char> BulkRows ScanPlainly(const Scan<Char>& scan)
+// One place at a time from position on: the whole of a plain scan, the rest of a vector one.
+template<typename Char>
+BulkRows FinishPlainly(const Scan<Char>& scan, HitCollector<Char>& hits, std::size_t position)
 {
-    HitCollector<Char> hits(scan);
     const std::size_t end = ScanEnd(scan);
     const Char first = scan.needle[0];
     const Char last = scan.needle[scan.needleLength - 1];
-    std::size_t position = 0;
     while (position + scan.needleLength <= end) {
         if (scan.text[position] == first && scan.text[position + scan.needleLength - 1] == last)
             position = hits.Place(position);
@@ -73,6 +73,12 @@ template<typename Char> BulkRows ScanPlainly(const Scan<Char>& scan)
             ++position;
     }
     return hits.Hits();
+}
+
+template<typename Char> BulkRows ScanPlainly(const Scan<Char>& scan)
+{
+    HitCollector<Char> hits(scan);
+    return FinishPlainly(scan, hits, 0);
 }
 
 // The vector kernels give a mask bit per byte where both the first and the last character match;
@@ -132,14 +138,7 @@ template<typename Char> BulkRows ScanSse2(const Scan<Char>& scan)
         }
         position = next;
     }
-    while (position + scan.needleLength <= end) {
-        if (scan.text[position] == scan.needle[0]
-            && scan.text[position + scan.needleLength - 1] == scan.needle[scan.needleLength - 1])
-            position = hits.Place(position);
-        else
-            ++position;
-    }
-    return hits.Hits();
+    return FinishPlainly(scan, hits, position);
 }
 
 template<typename Char> __attribute__((target("avx2"))) BulkRows ScanAvx2(const Scan<Char>& scan)
@@ -176,14 +175,7 @@ template<typename Char> __attribute__((target("avx2"))) BulkRows ScanAvx2(const 
         }
         position = next;
     }
-    while (position + scan.needleLength <= end) {
-        if (scan.text[position] == scan.needle[0]
-            && scan.text[position + scan.needleLength - 1] == scan.needle[scan.needleLength - 1])
-            position = hits.Place(position);
-        else
-            ++position;
-    }
-    return hits.Hits();
+    return FinishPlainly(scan, hits, position);
 }
 
 bool HasAvx2()

@@ -13,6 +13,8 @@ TestCase {
             "Spotlight_Cpp", "SpotlightModel", "SpotlightProxyModel", "SubcommandsModel",
             "MenuItemsModel", "MenuItemsFilterModel", "MenuSystem_Cpp", "HotkeyHandler_Cpp", "PropertiesPanelUserConfiguration", "ActionsModel", "EntityModel",
             "PropertiesModel", "PropertiesPanel_Cpp", "PropertiesProxyModel",
+            "InputPanel_Cpp", "InputPanelContainerModel", "InputPanelContainerProxyModel", "FilterBarItemProxyModel",
+            "FilterBarItemModel", "TagModel", "InputPanelUserConfiguration",
             "ComboBoxProxyModel", "FilterItemsProxyModel", "SelectionModel", "SimpleComboBoxProxyModel",
             "CommandMenuHelper",
             "IntegerValidator", "RealValidator", "InlineCalculator", "IllustrationData",
