@@ -2523,5 +2523,61 @@
         <source>Moments</source>
         <translation>Moments</translation>
     </message>
+    <message id="UI_NOTIFICATIONS_TITLE">
+        <source>Notifications</source>
+        <translation>Notifications</translation>
+    </message>
+    <message id="UI_NOTIFICATIONS_CLEAR_ALL">
+        <source>Clear all</source>
+        <translation>Clear all</translation>
+    </message>
+    <message id="UI_NOTIFICATIONS_EMPTY">
+        <source>No notifications</source>
+        <translation>No notifications</translation>
+    </message>
+    <message id="UI_NOTIFICATIONS_BUTTON_TOOLTIP">
+        <source>Notifications</source>
+        <translation>Notifications</translation>
+    </message>
+    <message id="UI_NOTIFICATIONS_CLOSE">
+        <source>Close</source>
+        <translation>Close</translation>
+    </message>
+    <message id="UI_NOTIFICATIONS_FILTER_ERRORS">
+        <source>Errors</source>
+        <translation>Errors</translation>
+    </message>
+    <message id="UI_NOTIFICATIONS_FILTER_WARNINGS">
+        <source>Warnings</source>
+        <translation>Warnings</translation>
+    </message>
+    <message id="UI_NOTIFICATIONS_FILTER_SUCCESS">
+        <source>Done</source>
+        <translation>Done</translation>
+    </message>
+    <message id="UI_NOTIFICATIONS_FILTER_INFORMATION">
+        <source>Information</source>
+        <translation>Information</translation>
+    </message>
+    <message id="UI_NOTIFICATIONS_ANALYSIS_DONE">
+        <source>Analysis finished</source>
+        <translation>Analysis finished</translation>
+    </message>
+    <message id="UI_NOTIFICATIONS_ANALYSIS_FAILED">
+        <source>Analysis failed</source>
+        <translation>Analysis failed</translation>
+    </message>
+    <message id="UI_NOTIFICATIONS_EDIT_REFUSED">
+        <source>Value not accepted</source>
+        <translation>Value not accepted</translation>
+    </message>
+    <message id="UI_NOTIFICATIONS_SHOW_RESULTS">
+        <source>Show results</source>
+        <translation>Show results</translation>
+    </message>
+    <message id="UI_NOTIFICATIONS_SELECT_OBJECT">
+        <source>Select the object</source>
+        <translation>Select the object</translation>
+    </message>
 </context>
 </TS>

@@ -228,7 +228,8 @@ void AnalysisService::OnThreadFinished()
     emit statusTextChanged();
     if (m_eventBus)
         m_eventBus->Post(AnalysisFinishedEvent { succeeded, job->cancelled, m_statusText,
-                                                 job->degreesOfFreedom, job->seconds });
+                                                 job->degreesOfFreedom, job->seconds,
+                                                 succeeded ? 0 : job->why.Subject() });
     emit finished(succeeded);
 }
 

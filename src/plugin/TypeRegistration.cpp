@@ -21,6 +21,10 @@
 #include "menusystem/MenuItemsModel.h"
 #include "menusystem/MenuSystem.h"
 #include "menusystem/SubcommandsModel.h"
+#include "notifications/Notifications.h"
+#include "notifications/NotificationsButtonsSelectionModel.h"
+#include "notifications/NotificationsFilterModel.h"
+#include "notifications/NotificationsModel.h"
 #include "properties/ActionsModel.h"
 #include "properties/EntityModel.h"
 #include "properties/IllustrationData.h"
@@ -134,6 +138,11 @@ void RegisterQtComponentsTypes(const char* uri)
     qmlRegisterType<MarkingMenuConfig>(uri, major, minor, "MarkingMenuConfig");
     qmlRegisterType<MarkingMenu>(uri, major, minor, "MarkingMenu_Cpp");
     qmlRegisterType<QtExtensions::FramelessWindow>(uri, major, minor, "FramelessWindow");
+    qmlRegisterType<Notifications>(uri, major, minor, "Notifications_Cpp");
+    qmlRegisterType<NotificationsModel>(uri, major, minor, "NotificationsModel");
+    qmlRegisterType<NotificationsFilterModel>(uri, major, minor, "NotificationsFilterModel");
+    qmlRegisterType<NotificationsButtonsSelectionModel>(uri, major, minor,
+                                                        "NotificationsButtonsSelectionModel");
     qmlRegisterType<GraphicView>(uri, major, minor, "GraphicView_Cpp");
     qmlRegisterType<Viewport>(uri, major, minor, "Viewport");
     qmlRegisterSingletonType<StringsQtComponents>(uri, major, minor, "Strings", CreateStrings);

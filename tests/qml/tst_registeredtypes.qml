@@ -26,7 +26,9 @@ TestCase {
             "TableColumnsModel", "TableContentModel", "MultiEditAction", "MultiEditActionSolver",
             "MultiEditSearchResult", "TableContentFilterModel", "TableSelectionModel",
             "TableSelectionFilterModel", "FilterBarModel",
-            "MarkingMenuSectionConfig", "MarkingMenuConfig", "MarkingMenu_Cpp"
+            "MarkingMenuSectionConfig", "MarkingMenuConfig", "MarkingMenu_Cpp",
+            "Notifications_Cpp", "NotificationsModel", "NotificationsFilterModel",
+            "NotificationsButtonsSelectionModel"
         ].map(type => ({ tag: type, type: type }))
     }
 
