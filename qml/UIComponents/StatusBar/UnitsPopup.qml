@@ -7,7 +7,7 @@ import BasicComponents.Constants
 
 // The units of the status bar: one row per quantity with the units the host offers for it.
 Popup {
-    id: popup
+    id: unitsPopup
 
     required property UnitsSubDataModel units
 
@@ -24,7 +24,7 @@ Popup {
         columnSpacing: BasicConstants.sizes.margin
 
         Repeater {
-            model: popup.units.quantities
+            model: unitsPopup.units.quantities
             delegate: Text {
                 required property var modelData
                 Layout.row: modelData.quantity
@@ -36,7 +36,7 @@ Popup {
             }
         }
         Repeater {
-            model: popup.units.quantities
+            model: unitsPopup.units.quantities
             delegate: BasicComboBox {
                 id: unitChoice
                 required property var modelData
@@ -46,7 +46,7 @@ Popup {
                 Layout.preferredWidth: 90
                 model: modelData.choices
                 currentIndex: modelData.choices.indexOf(modelData.unit)
-                onActivated: index => popup.units.setUnit(unitChoice.modelData.quantity,
+                onActivated: index => unitsPopup.units.setUnit(unitChoice.modelData.quantity,
                                                           unitChoice.modelData.choices[index])
             }
         }
