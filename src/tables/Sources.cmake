@@ -17,6 +17,7 @@ target_sources(QtComponentsCore PRIVATE
     ${CMAKE_CURRENT_LIST_DIR}/TablesLogging.h ${CMAKE_CURRENT_LIST_DIR}/TablesLogging.cpp
     ${CMAKE_CURRENT_LIST_DIR}/TableColumn.h
     ${CMAKE_CURRENT_LIST_DIR}/TableContentUpdate.h ${CMAKE_CURRENT_LIST_DIR}/TableContentUpdate.cpp
+    ${CMAKE_CURRENT_LIST_DIR}/TableCompactCells.h ${CMAKE_CURRENT_LIST_DIR}/TableCompactCells.cpp
     ${CMAKE_CURRENT_LIST_DIR}/TableContentGrid.h ${CMAKE_CURRENT_LIST_DIR}/TableContentGrid.cpp
     ${CMAKE_CURRENT_LIST_DIR}/TableNumberText.h ${CMAKE_CURRENT_LIST_DIR}/TableNumberText.cpp
     ${CMAKE_CURRENT_LIST_DIR}/TableColorPalette.h ${CMAKE_CURRENT_LIST_DIR}/TableColorPalette.cpp

@@ -1,11 +1,12 @@
 #pragma once
 
 #include "TableCellContent.h"
+#include "TableCompactCells.h"
 
 #include <algorithm>
-#include <bitset>
 #include <cstddef>
 #include <cstdint>
+#include <memory>
 #include <vector>
 
 namespace Orvo::UI::UIComponents {
@@ -20,9 +21,11 @@ struct GridContentIndex
 
     static GridContentIndex FromRow(int row) { return { row / c_rowsCountBulk, row % c_rowsCountBulk }; }
 };
+static_assert(TableCompactCells::c_rows == GridContentIndex::c_rowsCountBulk);
 
-// The sparse cache of cells: bulks of 100 rows, each holding one cell vector per column that stays
-// empty until the feeder delivers those rows. Only what the view has touched costs memory.
+// The sparse cache of cells: bulks of 100 rows, each holding the compact cells of every column once
+// the feeder delivered some of its rows. Only what the view has touched costs memory: a bulk that
+// was never delivered to is an empty vector.
 class TableContentGrid
 {
 public:
@@ -36,8 +39,9 @@ public:
     int GetBulkCount() const { return static_cast<int>(m_bulks.size()); }
 
     bool IsFilled(GridContentIndex index, int column) const;
-    // The cell at index; throws std::overflow_error when the bulk or the column is not allocated.
-    const TableCellContent& GetCell(GridContentIndex index, int column) const;
+    // The cell at index, put together from the compact cells; throws std::overflow_error when the
+    // bulk or the column is not allocated.
+    TableCellContent GetCell(GridContentIndex index, int column) const;
     // Stores a run of a column's cells from firstRow on, bulk by bulk; the bulks must exist.
     void StoreRows(int firstRow, int column, std::vector<TableCellContent>&& cells);
     // Whether the first `rows` rows of the bulk all have the column's cell.
@@ -56,16 +60,13 @@ public:
     std::uint64_t Revision() const { return m_revision; }
 
 private:
-    struct BulkColumn
-    {
-        std::vector<TableCellContent> cells;
-        std::bitset<GridContentIndex::c_rowsCountBulk> filled;
-        std::uint64_t revision = 0;
-    };
-    using Bulk = std::vector<BulkColumn>;
+    // Empty until something is stored in the bulk; then one entry per column, null for a column
+    // with nothing stored.
+    using Bulk = std::vector<std::unique_ptr<TableCompactCells>>;
 
-    BulkColumn& GetBulkColumn(int bulk, int column);
-    const BulkColumn& GetBulkColumn(int bulk, int column) const;
+    // The compact cells of the bulk's column; null when nothing was stored there.
+    const TableCompactCells* Find(int bulk, int column) const;
+    TableCompactCells& Allocate(int bulk, int column);
 
     int m_columnCount = 0;
     std::vector<Bulk> m_bulks;

@@ -170,7 +170,7 @@ TableCellContent TableContentModel::GetCell(int row, int column) const
     return m_grid.GetCell(gridIndex, column);
 }
 
-const TableCellContent& TableContentModel::EnsureData(int row, int column, ContentRequest request) const
+TableCellContent TableContentModel::EnsureData(int row, int column, ContentRequest request) const
 {
     const GridContentIndex gridIndex = GridContentIndex::FromRow(row);
     if (row < 0 || row >= m_rowCountSubmitted || column < 0 || column >= columnCount())
@@ -312,8 +312,10 @@ QVariant TableContentModel::CellData(const QModelIndex& index, int role) const
         return true;
     if (!TableRoleData::IsRecordRole(role))
         return m_selectionModel->RoleData(row, column, role);
-    const TableCellContent& cell = EnsureData(row, column, ContentRequest::VisibleColumns);
-    return TableRoleData::RecordData(cell, m_layout.At(column), GetValueType(row, column),
+    const TableCellContent cell = EnsureData(row, column, ContentRequest::VisibleColumns);
+    const TableValueType columnType = m_layout.At(column).type;
+    return TableRoleData::RecordData(cell, m_layout.At(column),
+                                     columnType != TableValueType::Unknown ? columnType : cell.valueType,
                                      PendingValue(row, column), role);
 }
 

@@ -227,7 +227,7 @@ public:
     // The cached cells as they stand; never asks the feeder.
     const TableContentGrid& Grid() const { return m_grid; }
     // The cell, asking the feeder for the rows first when they are missing.
-    const TableCellContent& GetFilledCell(int row, int column, ContentRequest request) const
+    TableCellContent GetFilledCell(int row, int column, ContentRequest request) const
     {
         return EnsureData(row, column, request);
     }
@@ -312,7 +312,7 @@ signals:
 private:
     bool IsInTable(const QModelIndex& index) const;
     bool IsNewRow(int row) const { return m_allowAddNew && row == m_rowCountSubmitted; }
-    const TableCellContent& EnsureData(int row, int column, ContentRequest request) const;
+    TableCellContent EnsureData(int row, int column, ContentRequest request) const;
     void SetRowsToGrid(int index, std::vector<TableColumnContent>& contents);
     void UpdateMinimumWidths(int firstRow, int count);
     QVariant CellData(const QModelIndex& index, int role) const;
