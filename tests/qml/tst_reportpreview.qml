@@ -58,6 +58,21 @@ Item {
             verify(image.width <= TestSupport.findByObjectName(preview, "pageFlickable").width)
         }
 
+        function test_ctrlWheelZooms() {
+            const preview = createPreview()
+            const area = TestSupport.findByObjectName(preview, "pageFlickable")
+            const zoom = preview.zoom
+            mouseWheel(area, 100, 100, 0, 120, Qt.NoButton, Qt.ControlModifier)
+            verify(preview.zoom > zoom)
+            mouseWheel(area, 100, 100, 0, -120, Qt.NoButton, Qt.ControlModifier)
+            mouseWheel(area, 100, 100, 0, -120, Qt.NoButton, Qt.ControlModifier)
+            verify(preview.zoom < zoom)
+            // The wheel alone scrolls the page
+            const before = preview.zoom
+            mouseWheel(area, 100, 100, 0, -120)
+            compare(preview.zoom, before)
+        }
+
         function test_headingsNameTheirPages() {
             // Without results the results section is the report's last page
             const preview = createPreview()

@@ -213,6 +213,17 @@ ReportPreview_Cpp {
                     ScrollBar.vertical: ScrollBar {}
                     ScrollBar.horizontal: ScrollBar {}
 
+                    // Ctrl and the wheel zoom, as in a document viewer; the wheel alone scrolls.
+                    WheelHandler {
+                        acceptedModifiers: Qt.ControlModifier
+                        onWheel: event => {
+                            if (event.angleDelta.y > 0)
+                                preview.zoomIn()
+                            else if (event.angleDelta.y < 0)
+                                preview.zoomOut()
+                        }
+                    }
+
                     Image {
                         objectName: "pageImage"
                         x: Math.max(d.pageMargin, (flickable.contentWidth - width) / 2)
