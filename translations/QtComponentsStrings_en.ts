@@ -943,6 +943,14 @@
         <source>Objects</source>
         <translation>Objects</translation>
     </message>
+    <message id="UI_INPUT_APPLY">
+        <source>Apply</source>
+        <translation>Apply</translation>
+    </message>
+    <message id="UI_INPUT_CANCEL">
+        <source>Cancel</source>
+        <translation>Cancel</translation>
+    </message>
     <message id="UI_MENU_OBJECT">
         <source>Object</source>
         <translation>Object</translation>
