@@ -37,6 +37,19 @@ DemoOptions DemoOptions::Parse(const QStringList& arguments)
             } else {
                 options.modelSize = value;
             }
+        } else if (argument == QLatin1String("--window-size")) {
+            // WIDTHxHEIGHT, to look at the shell at a narrow or a wide window.
+            QString size;
+            takeValue(size);
+            const QStringList parts = size.split(QLatin1Char('x'));
+            const int width = parts.value(0).toInt();
+            const int height = parts.value(1).toInt();
+            if (parts.size() == 2 && width > 0 && height > 0) {
+                options.windowSize = QSize(width, height);
+            } else {
+                options.valid = false;
+                options.error = QStringLiteral("--window-size takes WIDTHxHEIGHT");
+            }
         } else if (argument == QLatin1String("--delay")) {
             QString delay;
             takeValue(delay);

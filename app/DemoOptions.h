@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QSize>
 #include <QString>
 #include <QStringList>
 
@@ -12,6 +13,7 @@ struct DemoOptions
     int modelSize = 0; // members of the demo's building; 0: the default building
     bool holdMarkingMenu = false; // play a secondary-button hold over the marking menu page's view
     QString renderer; // "software" or "opengl" for the model views; empty: the user's setting
+    QSize windowSize; // invalid: the window's own size
     bool valid = true;
     QString error;
 

@@ -1,5 +1,8 @@
 #include "SampleObjectsModel.h"
 
+#include "basiccomponents/DisplayUnits.h"
+#include "events/DisplayUnitsChanged.h"
+
 #include "framework/DefaultServices.h"
 #include "framework/EventBus.h"
 #include "framework/IStringLoader.h"
@@ -33,9 +36,15 @@ QString Format(const PropertyDefinition& definition, const PropertyValue& value)
     QString text;
     if (definition.type == PropertyType::List)
         text = Text(definition.choiceIds.value(std::get<std::int32_t>(value)));
-    else if (const auto* number = std::get_if<double>(&value))
-        text = QLocale().toString(*number, 'f', definition.decimals);
-    else if (const auto* integer = std::get_if<std::int32_t>(&value))
+    else if (const auto* number = std::get_if<double>(&value)) {
+        // In the unit the user chose for the quantity.
+        const auto units = ServiceCatalog::Global()->Get<Orvo::UI::BasicComponents::DisplayUnits>();
+        const auto shown = units
+            ? units->ForStoredUnit(definition.units, definition.decimals)
+            : Orvo::UI::BasicComponents::DisplayUnits::Shown { definition.units, 1.0, definition.decimals };
+        return QLocale().toString(shown.ToShown(*number), 'f', shown.decimals)
+            + (shown.unit.isEmpty() ? QString() : QLatin1Char(' ') + shown.unit);
+    } else if (const auto* integer = std::get_if<std::int32_t>(&value))
         text = QString::number(*integer);
     else if (const auto* flag = std::get_if<bool>(&value))
         text = Text(*flag ? QStringLiteral("UI_PROPERTIES_YES") : QStringLiteral("UI_PROPERTIES_NO"));
@@ -58,6 +67,11 @@ SampleObjectsModel::SampleObjectsModel(QObject* parent)
             [this](const SelectionChangedEvent&) { OnSelectionChanged(); });
         m_valuesConnection = bus->Subscribe<ObjectValuesChangedEvent>(
             [this](const ObjectValuesChangedEvent& event) { OnValuesChanged(event.objects); });
+        m_unitsConnection = bus->Subscribe<Orvo::UI::Events::DisplayUnitsChanged>(
+            [this](const Orvo::UI::Events::DisplayUnitsChanged&) {
+                if (m_rowCount > 0)
+                    emit dataChanged(index(0), index(m_rowCount - 1));
+            });
         m_structureConnection
             = bus->Subscribe<StructureChangedEvent>([this](const StructureChangedEvent& event) {
                   if (event.kinds.empty() || std::count(event.kinds.begin(), event.kinds.end(), m_kind))

@@ -80,4 +80,5 @@ private:
     Orvo::Kernel::Framework::EventConnection m_selectionConnection;
     Orvo::Kernel::Framework::EventConnection m_valuesConnection;
     Orvo::Kernel::Framework::EventConnection m_structureConnection;
+    Orvo::Kernel::Framework::EventConnection m_unitsConnection;
 };

@@ -8,6 +8,7 @@
 #include "graphic/GraphicsService.h"
 #include "graphic/InteractiveViewport.h"
 #include "graphic/ViewportEvents.h"
+#include "model/ActiveEntities.h"
 #include "plugin/QtComponentsText.h"
 
 using namespace Orvo;
@@ -53,6 +54,18 @@ ViewControls::ViewControls(QObject* parent)
                                               Number(event.position.y, c_coordinateDecimals),
                                               Number(event.position.z, c_coordinateDecimals))
                                    : UI::UIComponents::GetText(QStringLiteral("UI_APP_POINTER_NONE")));
+            });
+        // The view shows the loads of the load case new loads go to.
+        m_activeConnection = bus->Subscribe<Kernel::Model::ActiveEntitiesChangedEvent>(
+            [this](const Kernel::Model::ActiveEntitiesChangedEvent&) {
+                const auto active
+                    = Kernel::Framework::ServiceCatalog::Global()->Get<Kernel::Model::ActiveEntities>();
+                if (!active)
+                    return;
+                // The view bar may have changed what the view shows since: start from the view.
+                Graphic::DisplayOptions options = View() ? View()->GetDisplayOptions() : m_options;
+                options.loadCase = active->GetLoadCase();
+                Apply(options);
             });
         m_scaleConnection = bus->Subscribe<Graphic::ViewScaleChangedEvent>(
             [this](const Graphic::ViewScaleChangedEvent& event) {

@@ -85,4 +85,5 @@ private:
     QString m_scaleText;
     Orvo::Kernel::Framework::EventConnection m_pointerConnection;
     Orvo::Kernel::Framework::EventConnection m_scaleConnection;
+    Orvo::Kernel::Framework::EventConnection m_activeConnection;
 };

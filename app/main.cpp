@@ -72,7 +72,7 @@ int main(int argc, char** argv)
         std::fprintf(
             stderr,
             "%s\nUsage: QtComponentsDemo [--page NAME] [--model-size MEMBERS] [--renderer software|opengl] "
-            "[--hold-marking-menu] [--screenshot FILE [--delay MS]]\n",
+            "[--hold-marking-menu] [--window-size WIDTHxHEIGHT] [--screenshot FILE [--delay MS]]\n",
             qPrintable(options.error));
         return 2;
     }
@@ -125,6 +125,8 @@ int main(int argc, char** argv)
     if (!window)
         return 1;
 
+    if (options.windowSize.isValid())
+        window->resize(options.windowSize);
     if (options.holdMarkingMenu)
         (new MarkingMenuGesture(window, &application))->Start();
     if (!options.screenshotFile.isEmpty()) {

@@ -2307,5 +2307,285 @@
         <source>Values</source>
         <translation>Values</translation>
     </message>
+    <message id="UI_UNITS_LENGTH">
+        <source>Length</source>
+        <translation>Length</translation>
+    </message>
+    <message id="UI_UNITS_FORCE">
+        <source>Force</source>
+        <translation>Force</translation>
+    </message>
+    <message id="UI_UNITS_MOMENT">
+        <source>Moment</source>
+        <translation>Moment</translation>
+    </message>
+    <message id="UI_UNITS_STRESS">
+        <source>Stress</source>
+        <translation>Stress</translation>
+    </message>
+    <message id="UI_STATUSBAR_UNITS">
+        <source>Units</source>
+        <translation>Units</translation>
+    </message>
+    <message id="UI_STATUSBAR_UNITS_TOOLTIP">
+        <source>Units of lengths, forces, moments and stresses in every field and table</source>
+        <translation>Units of lengths, forces, moments and stresses in every field and table</translation>
+    </message>
+    <message id="UI_STATUSBAR_SCALE">
+        <source>1:%1</source>
+        <translation>1:%1</translation>
+    </message>
+    <message id="UI_STATUSBAR_NO_SCALE">
+        <source>No view</source>
+        <translation>No view</translation>
+    </message>
+    <message id="UI_STATUSBAR_PIXEL">
+        <source>1 px = %1 %2</source>
+        <translation>1 px = %1 %2</translation>
+    </message>
+    <message id="UI_STATUSBAR_POINTER_NONE">
+        <source>Pointer off the model</source>
+        <translation>Pointer off the model</translation>
+    </message>
+    <message id="UI_STATUSBAR_WORK_PLANE">
+        <source>Level %1 %2</source>
+        <translation>Level %1 %2</translation>
+    </message>
+    <message id="UI_STATUSBAR_LOAD_CASE">
+        <source>Load case %1</source>
+        <translation>Load case %1</translation>
+    </message>
+    <message id="UI_STATUSBAR_WORK_PLANE_TOOLTIP">
+        <source>Work plane new nodes are placed on</source>
+        <translation>Work plane new nodes are placed on</translation>
+    </message>
+    <message id="UI_STATUSBAR_LOAD_CASE_TOOLTIP">
+        <source>Load case new loads belong to and the view shows</source>
+        <translation>Load case new loads belong to and the view shows</translation>
+    </message>
+    <message id="UI_STATUSBAR_NO_LOAD_CASE">
+        <source>No load case</source>
+        <translation>No load case</translation>
+    </message>
+    <message id="UI_STATUSBAR_SNAPS">
+        <source>Snaps</source>
+        <translation>Snaps</translation>
+    </message>
+    <message id="UI_STATUSBAR_CANCEL">
+        <source>Cancel</source>
+        <translation>Cancel</translation>
+    </message>
+    <message id="UI_SNAP_NODES">
+        <source>Node</source>
+        <translation>Node</translation>
+    </message>
+    <message id="UI_SNAP_NODES_DESCRIPTION">
+        <source>The pointer snaps to the nearest node</source>
+        <translation>The pointer snaps to the nearest node</translation>
+    </message>
+    <message id="UI_SNAP_MIDPOINTS">
+        <source>Midpoint</source>
+        <translation>Midpoint</translation>
+    </message>
+    <message id="UI_SNAP_MIDPOINTS_DESCRIPTION">
+        <source>The pointer snaps to the middle of a member</source>
+        <translation>The pointer snaps to the middle of a member</translation>
+    </message>
+    <message id="UI_SNAP_MEMBERS">
+        <source>On member</source>
+        <translation>On member</translation>
+    </message>
+    <message id="UI_SNAP_MEMBERS_DESCRIPTION">
+        <source>The pointer snaps to the nearest point of a member</source>
+        <translation>The pointer snaps to the nearest point of a member</translation>
+    </message>
+    <message id="UI_SNAP_GRID">
+        <source>Grid</source>
+        <translation>Grid</translation>
+    </message>
+    <message id="UI_SNAP_GRID_DESCRIPTION">
+        <source>The pointer snaps to the ground grid, one metre apart</source>
+        <translation>The pointer snaps to the ground grid, one metre apart</translation>
+    </message>
+    <message id="UI_PROCESS_MODEL">
+        <source>Model</source>
+        <translation>Model</translation>
+    </message>
+    <message id="UI_PROCESS_MODEL_DESCRIPTION">
+        <source>Nodes, members, supports, sections and materials of the structure</source>
+        <translation>Nodes, members, supports, sections and materials of the structure</translation>
+    </message>
+    <message id="UI_PROCESS_MODEL_ACTION">
+        <source>Edit model</source>
+        <translation>Edit model</translation>
+    </message>
+    <message id="UI_PROCESS_LOADS">
+        <source>Loads</source>
+        <translation>Loads</translation>
+    </message>
+    <message id="UI_PROCESS_LOADS_DESCRIPTION">
+        <source>Load cases, the loads on nodes and members, and their combinations</source>
+        <translation>Load cases, the loads on nodes and members, and their combinations</translation>
+    </message>
+    <message id="UI_PROCESS_LOADS_ACTION">
+        <source>Edit loads</source>
+        <translation>Edit loads</translation>
+    </message>
+    <message id="UI_PROCESS_ANALYSIS">
+        <source>Analysis</source>
+        <translation>Analysis</translation>
+    </message>
+    <message id="UI_PROCESS_ANALYSIS_DESCRIPTION">
+        <source>Linear analysis of the frame for every load case and combination</source>
+        <translation>Linear analysis of the frame for every load case and combination</translation>
+    </message>
+    <message id="UI_PROCESS_ANALYSIS_ACTION">
+        <source>Calculate</source>
+        <translation>Calculate</translation>
+    </message>
+    <message id="UI_PROCESS_RESULTS">
+        <source>Results</source>
+        <translation>Results</translation>
+    </message>
+    <message id="UI_PROCESS_RESULTS_DESCRIPTION">
+        <source>Deformed shape and internal forces of the last analysis</source>
+        <translation>Deformed shape and internal forces of the last analysis</translation>
+    </message>
+    <message id="UI_PROCESS_RESULTS_ACTION">
+        <source>Show results</source>
+        <translation>Show results</translation>
+    </message>
+    <message id="UI_PROCESS_DESIGN">
+        <source>Design</source>
+        <translation>Design</translation>
+    </message>
+    <message id="UI_PROCESS_DESIGN_DESCRIPTION">
+        <source>Design checks of members against the standard of the chosen country; needs a design module, which is not installed</source>
+        <translation>Design checks of members against the standard of the chosen country; needs a design module, which is not installed</translation>
+    </message>
+    <message id="UI_PROCESS_DESIGN_ACTION">
+        <source>Check design</source>
+        <translation>Check design</translation>
+    </message>
+    <message id="UI_PROCESS_STATE_NOT_STARTED">
+        <source>Not done yet</source>
+        <translation>Not done yet</translation>
+    </message>
+    <message id="UI_PROCESS_STATE_DONE">
+        <source>Done</source>
+        <translation>Done</translation>
+    </message>
+    <message id="UI_PROCESS_STATE_NEEDS_UPDATE">
+        <source>Needs an update: the model changed since</source>
+        <translation>Needs an update: the model changed since</translation>
+    </message>
+    <message id="UI_PROCESS_STATE_ERROR">
+        <source>Has errors</source>
+        <translation>Has errors</translation>
+    </message>
+    <message id="UI_PROCESS_STATE_RUNNING">
+        <source>Running</source>
+        <translation>Running</translation>
+    </message>
+    <message id="UI_PROCESS_ACTION_UNAVAILABLE">
+        <source>Not available now</source>
+        <translation>Not available now</translation>
+    </message>
+    <message id="UI_VIEWBAR_ISOMETRIC">
+        <source>Isometric</source>
+        <translation>Isometric</translation>
+    </message>
+    <message id="UI_VIEWBAR_TOP">
+        <source>Top</source>
+        <translation>Top</translation>
+    </message>
+    <message id="UI_VIEWBAR_FRONT">
+        <source>Front</source>
+        <translation>Front</translation>
+    </message>
+    <message id="UI_VIEWBAR_SIDE">
+        <source>Side</source>
+        <translation>Side</translation>
+    </message>
+    <message id="UI_VIEWBAR_FIT">
+        <source>Fit all</source>
+        <translation>Fit all</translation>
+    </message>
+    <message id="UI_VIEWBAR_SOLIDS">
+        <source>Solids</source>
+        <translation>Solids</translation>
+    </message>
+    <message id="UI_VIEWBAR_LOADS">
+        <source>Loads</source>
+        <translation>Loads</translation>
+    </message>
+    <message id="UI_VIEWBAR_SUPPORTS">
+        <source>Supports</source>
+        <translation>Supports</translation>
+    </message>
+    <message id="UI_VIEWBAR_DEFORMED">
+        <source>Deformed</source>
+        <translation>Deformed</translation>
+    </message>
+    <message id="UI_VIEWBAR_MOMENTS">
+        <source>Moments</source>
+        <translation>Moments</translation>
+    </message>
+    <message id="UI_NOTIFICATIONS_TITLE">
+        <source>Notifications</source>
+        <translation>Notifications</translation>
+    </message>
+    <message id="UI_NOTIFICATIONS_CLEAR_ALL">
+        <source>Clear all</source>
+        <translation>Clear all</translation>
+    </message>
+    <message id="UI_NOTIFICATIONS_EMPTY">
+        <source>No notifications</source>
+        <translation>No notifications</translation>
+    </message>
+    <message id="UI_NOTIFICATIONS_BUTTON_TOOLTIP">
+        <source>Notifications</source>
+        <translation>Notifications</translation>
+    </message>
+    <message id="UI_NOTIFICATIONS_CLOSE">
+        <source>Close</source>
+        <translation>Close</translation>
+    </message>
+    <message id="UI_NOTIFICATIONS_FILTER_ERRORS">
+        <source>Errors</source>
+        <translation>Errors</translation>
+    </message>
+    <message id="UI_NOTIFICATIONS_FILTER_WARNINGS">
+        <source>Warnings</source>
+        <translation>Warnings</translation>
+    </message>
+    <message id="UI_NOTIFICATIONS_FILTER_SUCCESS">
+        <source>Done</source>
+        <translation>Done</translation>
+    </message>
+    <message id="UI_NOTIFICATIONS_FILTER_INFORMATION">
+        <source>Information</source>
+        <translation>Information</translation>
+    </message>
+    <message id="UI_NOTIFICATIONS_ANALYSIS_DONE">
+        <source>Analysis finished</source>
+        <translation>Analysis finished</translation>
+    </message>
+    <message id="UI_NOTIFICATIONS_ANALYSIS_FAILED">
+        <source>Analysis failed</source>
+        <translation>Analysis failed</translation>
+    </message>
+    <message id="UI_NOTIFICATIONS_EDIT_REFUSED">
+        <source>Value not accepted</source>
+        <translation>Value not accepted</translation>
+    </message>
+    <message id="UI_NOTIFICATIONS_SHOW_RESULTS">
+        <source>Show results</source>
+        <translation>Show results</translation>
+    </message>
+    <message id="UI_NOTIFICATIONS_SELECT_OBJECT">
+        <source>Select the object</source>
+        <translation>Select the object</translation>
+    </message>
 </context>
 </TS>

@@ -9,6 +9,7 @@ import Orvo.QtExtensions
 import UIComponents.MarkingMenu
 import UIComponents.Spotlight
 import UIComponents.MenuSystem
+import UIComponents.Notifications
 import Demo
 
 ApplicationWindow {
@@ -68,6 +69,18 @@ ApplicationWindow {
         y: 60
     }
 
+    // The host's messages over every page: the centre opens from the bell in the header, toasts
+    // show new ones in the bottom right corner.
+    Notifications {
+        id: notifications
+        objectName: "notifications"
+        parent: window.contentItem
+        anchors.fill: parent
+        z: 90
+        onResultsRequested: pageList.currentIndex = window.pageIndex("analysis")
+        onObjectSelected: pageList.currentIndex = window.pageIndex("model")
+    }
+
     // The application's menus, built from the shipped menu definition.
     menuBar: MenuSystem {
         objectName: "menuSystem"
@@ -101,6 +114,10 @@ ApplicationWindow {
                 model: [Strings.text("UI_APP_NUMBER_FORMAT_POINT"), Strings.text("UI_APP_NUMBER_FORMAT_COMMA")]
                 currentIndex: NumberFormat.decimalComma ? 1 : 0
                 onActivated: index => NumberFormat.decimalComma = index === 1
+            }
+            NotificationsButton {
+                objectName: "notificationsButton"
+                centre: notifications
             }
         }
     }
@@ -158,28 +175,7 @@ ApplicationWindow {
         }
     }
 
-    footer: Rectangle {
-        height: 24
-        color: BasicConstants.colors.panelHeader
-        Text {
-            anchors { left: parent.left; leftMargin: 10; verticalCenter: parent.verticalCenter }
-            text: DemoShell.commandActivity.runCount > 0
-                  ? Strings.text("UI_APP_STATUS_LAST_COMMAND").arg(DemoShell.commandActivity.lastCommandName)
-                                                             .arg(DemoShell.commandActivity.lastOrigin)
-                  : Strings.text("UI_APP_STATUS_READY")
-            font.family: BasicConstants.fonts.family
-            font.pixelSize: BasicConstants.fonts.small
-            color: BasicConstants.colors.textSecondary
-        }
-        // Where the pointer is in the model, and the model view's scale.
-        Text {
-            objectName: "viewStatus"
-            anchors { right: parent.right; rightMargin: 10; verticalCenter: parent.verticalCenter }
-            visible: window.pages[pageStack.currentIndex].name === "model"
-            text: DemoShell.viewControls.pointerText + "    " + DemoShell.viewControls.scaleText
-            font.family: BasicConstants.fonts.family
-            font.pixelSize: BasicConstants.fonts.small
-            color: BasicConstants.colors.textSecondary
-        }
+    footer: ShellStatusBar {
+        objectName: "statusBar"
     }
 }

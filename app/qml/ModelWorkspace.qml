@@ -5,8 +5,10 @@ import Qml.QtComponents
 import BasicComponents.Constants
 import Orvo.QtExtensions
 import UIComponents.GraphicView
+import UIComponents.ProcessToolbar
 import UIComponents.PropertiesPanel
 import UIComponents.Tables
+import UIComponents.ViewBar
 import Demo
 
 // The application's workspace on the one structural model: the model view in the centre, the
@@ -37,9 +39,23 @@ Item {
                 SplitView.minimumHeight: 200
                 spacing: 0
 
-                ViewToolbar {
+                // The project's steps; the centre button runs the current one's main action.
+                ProcessToolbar {
+                    objectName: "processToolbar"
                     Layout.fillWidth: true
-                    controls: DemoShell.viewControls
+                    onTablesRequested: bottomTabs.currentIndex = 1
+                    onResultsRequested: {
+                        viewBar.setChecked("deformed", true)
+                        viewBar.setChecked("moments", true)
+                    }
+                }
+
+                // Presets, framing and what the view shows; narrow, it folds into a menu.
+                ViewBar {
+                    id: viewBar
+                    objectName: "viewBar"
+                    Layout.fillWidth: true
+                    viewportId: graphicView.viewport.viewportId
                 }
 
                 // What the view does not take (the secondary button) falls through to the area,

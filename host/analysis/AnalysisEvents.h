@@ -1,5 +1,7 @@
 #pragma once
 
+#include "model/ObjectIds.h"
+
 #include <QString>
 #include <cstdint>
 
@@ -13,6 +15,9 @@ struct AnalysisFinishedEvent
     QString message;
     std::int32_t degreesOfFreedom = 0;
     double seconds = 0.0;
+    // The object that kept the analysis from running (a member without length), 0 when none did:
+    // a message about it can offer to select it.
+    Model::ObjectId object = 0;
 };
 
 } // namespace Orvo::Kernel::Analysis

@@ -61,12 +61,15 @@ struct AnalysisService::Job
 AnalysisService::AnalysisService(std::shared_ptr<Framework::StructuralModel> model,
                                  std::shared_ptr<Tables::TableDataCatalog> tables,
                                  std::shared_ptr<Framework::EventBus> eventBus,
-                                 std::shared_ptr<const Framework::IStringLoader> strings, QObject* parent)
+                                 std::shared_ptr<const Framework::IStringLoader> strings,
+                                 std::shared_ptr<const UI::BasicComponents::DisplayUnits> units,
+                                 QObject* parent)
     : QObject(parent)
     , m_model(std::move(model))
     , m_catalog(std::move(tables))
     , m_eventBus(std::move(eventBus))
     , m_strings(std::move(strings))
+    , m_units(std::move(units))
 {
     Tables::TableWorkstation workstation {
         Tables::TableDataCatalog::c_resultsWorkstation,
@@ -75,7 +78,7 @@ AnalysisService::AnalysisService(std::shared_ptr<Framework::StructuralModel> mod
         {}
     };
     for (Results::ResultsTable table : Results::c_allResultsTables) {
-        m_tables.push_back(std::make_shared<Results::ResultsTableData>(table, m_strings));
+        m_tables.push_back(std::make_shared<Results::ResultsTableData>(table, m_strings, m_units));
         workstation.tables.push_back(m_tables.back());
     }
     if (m_catalog)
@@ -225,7 +228,8 @@ void AnalysisService::OnThreadFinished()
     emit statusTextChanged();
     if (m_eventBus)
         m_eventBus->Post(AnalysisFinishedEvent { succeeded, job->cancelled, m_statusText,
-                                                 job->degreesOfFreedom, job->seconds });
+                                                 job->degreesOfFreedom, job->seconds,
+                                                 succeeded ? 0 : job->why.Subject() });
     emit finished(succeeded);
 }
 

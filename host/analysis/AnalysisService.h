@@ -30,6 +30,10 @@ class ResultsDatabase;
 class ResultsTableData;
 } // namespace Orvo::Kernel::Results
 
+namespace Orvo::UI::BasicComponents {
+class DisplayUnits;
+}
+
 namespace Orvo::Kernel::Analysis {
 
 // The host's analysis: runs the frame analysis of the structural model on a thread of its own,
@@ -57,7 +61,9 @@ public:
     AnalysisService(std::shared_ptr<Framework::StructuralModel> model,
                     std::shared_ptr<Tables::TableDataCatalog> tables,
                     std::shared_ptr<Framework::EventBus> eventBus,
-                    std::shared_ptr<const Framework::IStringLoader> strings, QObject* parent = nullptr);
+                    std::shared_ptr<const Framework::IStringLoader> strings,
+                    std::shared_ptr<const UI::BasicComponents::DisplayUnits> units = nullptr,
+                    QObject* parent = nullptr);
     ~AnalysisService() override;
 
     // Starts an analysis of the model as it is now; false while one runs.
@@ -107,6 +113,7 @@ private:
     std::shared_ptr<Tables::TableDataCatalog> m_catalog;
     std::shared_ptr<Framework::EventBus> m_eventBus;
     std::shared_ptr<const Framework::IStringLoader> m_strings;
+    std::shared_ptr<const UI::BasicComponents::DisplayUnits> m_units;
     std::vector<std::shared_ptr<Results::ResultsTableData>> m_tables;
     std::shared_ptr<Results::ResultsDatabase> m_database;
     QTemporaryDir m_directory;

@@ -20,7 +20,11 @@ enum class Kind
     Real,
     Integer,
     Boolean,
+    Text,
 };
+
+// Longer texts are no names, codes or symbols: a hand-edited file at most.
+constexpr qsizetype c_maximumTextLength = 256;
 
 // What values a setting takes: its kind and, for numbers, a range. A lower bound that is
 // excluded keeps factors and distances away from zero, which would freeze the camera.
@@ -42,6 +46,17 @@ const QHash<QString, Definition>& Definitions()
         { Settings::c_zoomFarthestLimit, { Kind::Real, 0.0, 1e7, true } },
         { Settings::c_objectPickingRadius, { Kind::Real, 0.0, 100.0, false } },
         { Settings::c_rendererType, { Kind::Integer, 0.0, 4.0, false } },
+        { Settings::c_lengthUnit, { Kind::Text } },
+        { Settings::c_forceUnit, { Kind::Text } },
+        { Settings::c_momentUnit, { Kind::Text } },
+        { Settings::c_stressUnit, { Kind::Text } },
+        { Settings::c_snapToNodes, { Kind::Boolean } },
+        { Settings::c_snapToMidpoints, { Kind::Boolean } },
+        { Settings::c_snapToGrid, { Kind::Boolean } },
+        { Settings::c_snapToMembers, { Kind::Boolean } },
+        { Settings::c_accountName, { Kind::Text } },
+        { Settings::c_accountOrganisation, { Kind::Text } },
+        { Settings::c_accountCountry, { Kind::Text } },
     };
     return definitions;
 }
@@ -65,6 +80,12 @@ QVariant Accepted(const Definition& definition, const QVariant& value)
     if (definition.kind == Kind::Boolean) {
         const auto boolean = ToBoolean(value);
         return boolean ? QVariant(*boolean) : QVariant();
+    }
+    if (definition.kind == Kind::Text) {
+        if (value.typeId() != QMetaType::QString && value.typeId() != QMetaType::QByteArray)
+            return {};
+        const QString text = value.toString();
+        return text.size() <= c_maximumTextLength ? QVariant(text) : QVariant();
     }
     if (value.typeId() == QMetaType::Bool)
         return {};

@@ -38,6 +38,20 @@ public:
     static inline const QString c_objectPickingRadius = QStringLiteral("Interaction/ObjectPickingRadius");
     // Which renderer draws the model views (Orvo::Graphic::RendererType).
     static inline const QString c_rendererType = QStringLiteral("Graphics/RendererType");
+    // The unit each quantity is shown in (a unit symbol; DisplayUnits checks it is one it offers).
+    static inline const QString c_lengthUnit = QStringLiteral("Units/Length");
+    static inline const QString c_forceUnit = QStringLiteral("Units/Force");
+    static inline const QString c_momentUnit = QStringLiteral("Units/Moment");
+    static inline const QString c_stressUnit = QStringLiteral("Units/Stress");
+    // Which points the pointer snaps to in the model views.
+    static inline const QString c_snapToNodes = QStringLiteral("Snapping/Nodes");
+    static inline const QString c_snapToMidpoints = QStringLiteral("Snapping/Midpoints");
+    static inline const QString c_snapToGrid = QStringLiteral("Snapping/Grid");
+    static inline const QString c_snapToMembers = QStringLiteral("Snapping/Members");
+    // The local user profile and the country whose standards and units apply.
+    static inline const QString c_accountName = QStringLiteral("Account/Name");
+    static inline const QString c_accountOrganisation = QStringLiteral("Account/Organisation");
+    static inline const QString c_accountCountry = QStringLiteral("Account/Country");
 
     explicit Settings(std::filesystem::path file,
                       std::shared_ptr<Kernel::Framework::EventBus> eventBus = nullptr);

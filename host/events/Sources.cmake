@@ -2,6 +2,7 @@ target_sources(OrvoHostKit PRIVATE
     ${CMAKE_CURRENT_LIST_DIR}/CommandExecuted.h
     ${CMAKE_CURRENT_LIST_DIR}/CommandShortcutChange.h
     ${CMAKE_CURRENT_LIST_DIR}/CommandStateChange.h
+    ${CMAKE_CURRENT_LIST_DIR}/DisplayUnitsChanged.h
     ${CMAKE_CURRENT_LIST_DIR}/MessageBoxVisibleChanged.h
     ${CMAKE_CURRENT_LIST_DIR}/NumberFormatChanged.h
     ${CMAKE_CURRENT_LIST_DIR}/RecentFilesChange.h

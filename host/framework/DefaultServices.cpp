@@ -7,6 +7,7 @@
 #include "ServiceCatalog.h"
 #include "TranslationStringLoader.h"
 #include "analysis/AnalysisService.h"
+#include "basiccomponents/DisplayUnits.h"
 #include "basiccomponents/NumberFormatSettings.h"
 #include "commands/CommandHistory.h"
 #include "commands/CommandRepository.h"
@@ -19,6 +20,7 @@
 #include "graphic/AnalysisResultsSource.h"
 #include "graphic/GraphicsService.h"
 #include "kernel/Directories.h"
+#include "model/ActiveEntities.h"
 #include "properties/StructuralModel.h"
 #include "qtextensions/ComponentConfigurationStore.h"
 #include "qtextensions/MessageBoxService.h"
@@ -85,14 +87,17 @@ void DefaultServices::Install(ServiceCatalog& catalog)
     auto structuralModel
         = std::make_shared<StructuralModel>(eventBus, undoStack, catalog.Get<IStringLoader>());
     catalog.Register<StructuralModel>(structuralModel);
-    auto tables = std::make_shared<Tables::TableDataCatalog>(structuralModel, eventBus);
-    catalog.Register<Tables::TableDataCatalog>(tables);
-    catalog.Register<Analysis::AnalysisService>(std::make_shared<Analysis::AnalysisService>(
-        structuralModel, tables, eventBus, catalog.Get<IStringLoader>()));
+    catalog.Register<Model::ActiveEntities>(std::make_shared<Model::ActiveEntities>(eventBus));
     auto settings = std::make_shared<UI::DataModel::Settings>(
         Directories::GetDirectory(Directories::DirectoryType::UserConfigurationDirectory) / "Settings.ini",
         eventBus);
     catalog.Register<UI::DataModel::Settings>(settings);
+    auto displayUnits = std::make_shared<UI::BasicComponents::DisplayUnits>(eventBus, settings);
+    catalog.Register<UI::BasicComponents::DisplayUnits>(displayUnits);
+    auto tables = std::make_shared<Tables::TableDataCatalog>(structuralModel, eventBus, displayUnits);
+    catalog.Register<Tables::TableDataCatalog>(tables);
+    catalog.Register<Analysis::AnalysisService>(std::make_shared<Analysis::AnalysisService>(
+        structuralModel, tables, eventBus, catalog.Get<IStringLoader>(), displayUnits));
     auto graphics = std::make_shared<Graphic::GraphicsService>(structuralModel, eventBus, settings);
     catalog.Register<Graphic::GraphicsService>(graphics);
     // The views show the analysis's results as soon as it has them.

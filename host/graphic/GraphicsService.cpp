@@ -10,6 +10,7 @@ GraphicsService::GraphicsService(std::shared_ptr<Kernel::Framework::StructuralMo
                                  std::shared_ptr<Kernel::Framework::EventBus> eventBus,
                                  std::shared_ptr<const UI::DataModel::Settings> settings)
     : m_eventBus(eventBus)
+    , m_settings(settings)
     , m_renderSystem(std::move(settings))
     , m_scene(std::move(model), std::move(eventBus))
 { }

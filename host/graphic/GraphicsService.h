@@ -38,6 +38,8 @@ public:
     const RenderSystem& GetRenderSystem() const { return m_renderSystem; }
     SceneDocument& GetScene() { return m_scene; }
     const std::shared_ptr<Kernel::Framework::EventBus>& GetEventBus() const { return m_eventBus; }
+    // The user's settings the views follow (their snaps among them); may be null.
+    const std::shared_ptr<const UI::DataModel::Settings>& GetSettings() const { return m_settings; }
 
     // The analysis installs its results here; views redraw with them.
     void SetResultsSource(std::shared_ptr<const ResultsSource> source);
@@ -54,6 +56,7 @@ public:
 
 private:
     std::shared_ptr<Kernel::Framework::EventBus> m_eventBus;
+    std::shared_ptr<const UI::DataModel::Settings> m_settings;
     RenderSystem m_renderSystem;
     SceneDocument m_scene;
     std::shared_ptr<const ResultsSource> m_results;

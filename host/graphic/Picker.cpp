@@ -73,6 +73,16 @@ Picker::Picker(const StructureScene& scene, const Camera& camera)
     }
 }
 
+std::optional<QPointF> Picker::ToScreen(const QVector3D& point) const
+{
+    const QVector4D clip = m_camera.ViewProjection() * QVector4D(point, 1.0f);
+    if (clip.w() <= 1e-6f || clip.z() < -clip.w())
+        return std::nullopt;
+    const QSize size = m_camera.ViewportSize();
+    return QPointF((clip.x() / clip.w() + 1.0) * 0.5 * size.width(),
+                   (1.0 - clip.y() / clip.w()) * 0.5 * size.height());
+}
+
 std::optional<Model::ObjectId> Picker::PickAt(const QPointF& point, double radius) const
 {
     std::optional<std::uint32_t> bestNode;

@@ -28,6 +28,8 @@ public:
     // Nodes inside the rectangle; members wholly inside it, or with crossing, every member that
     // touches it.
     std::vector<Kernel::Model::ObjectId> PickInRectangle(const QRectF& rectangle, bool crossing) const;
+    // Where the scene point shows in the view, unless it lies behind the camera.
+    std::optional<QPointF> ToScreen(const QVector3D& point) const;
     // The member's point nearest to the pixel's line of sight, when a member was picked there.
     std::optional<QVector3D> PointOnMember(std::uint32_t member, const QPointF& point) const;
 

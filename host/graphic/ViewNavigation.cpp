@@ -6,12 +6,48 @@
 #include "Picker.h"
 #include "properties/StructuralModel.h"
 
+#include "datamodel/Settings.h"
+
+#include <QLineF>
 #include <QRectF>
 #include <algorithm>
 #include <cmath>
 #include <unordered_set>
 
 namespace Orvo::Graphic {
+
+namespace {
+
+constexpr double c_gridSpacing = 1.0; // m
+
+// Which points the pointer snaps to: the user's settings, or all but the grid without them.
+struct Snaps
+{
+    bool nodes = true;
+    bool midpoints = false;
+    bool members = true;
+    bool grid = false;
+};
+
+Snaps ReadSnaps(const GraphicsService* service)
+{
+    Snaps snaps;
+    const auto* settings = service ? service->GetSettings().get() : nullptr;
+    if (!settings)
+        return snaps;
+    const auto read = [settings](const QString& key, bool fallback) {
+        const QVariant value = settings->Value(key);
+        return value.isValid() ? value.toBool() : fallback;
+    };
+    using UI::DataModel::Settings;
+    snaps.nodes = read(Settings::c_snapToNodes, snaps.nodes);
+    snaps.midpoints = read(Settings::c_snapToMidpoints, snaps.midpoints);
+    snaps.members = read(Settings::c_snapToMembers, snaps.members);
+    snaps.grid = read(Settings::c_snapToGrid, snaps.grid);
+    return snaps;
+}
+
+} // namespace
 
 namespace Model = Kernel::Model;
 
@@ -174,21 +210,39 @@ void ViewNavigation::UpdateHover(const QPointF& position)
     const auto picked = picker.PickAt(position, m_viewport.GetInteractionStrategy().GetObjectPickingRadius());
     const Model::ObjectId hovered = picked.value_or(0);
 
+    const Snaps snaps = ReadSnaps(m_viewport.Service());
+    const double radius = m_viewport.GetInteractionStrategy().GetObjectPickingRadius();
     m_pointer.reset();
-    if (picked && Model::KindOf(*picked) == Model::ObjectKind::Node) {
+    if (picked && Model::KindOf(*picked) == Model::ObjectKind::Node && snaps.nodes) {
         if (const auto node = scene.FindNode(Model::NumberOf(*picked)))
             m_pointer = scene.NodePositions()[*node];
     } else if (picked && Model::KindOf(*picked) == Model::ObjectKind::Member) {
-        if (const auto member = scene.FindMember(Model::NumberOf(*picked)))
-            m_pointer = picker.PointOnMember(*member, position);
-    } else if (!scene.Bounds().IsEmpty()) {
-        // Off the objects: the point of the ground the model stands on.
+        if (const auto member = scene.FindMember(Model::NumberOf(*picked))) {
+            const StructureScene::Member& record = scene.Members()[*member];
+            const QVector3D middle
+                = (scene.NodePositions()[record.startNode] + scene.NodePositions()[record.endNode]) * 0.5f;
+            const auto middleOnScreen = picker.ToScreen(middle);
+            if (snaps.midpoints && middleOnScreen && QLineF(*middleOnScreen, position).length() <= radius)
+                m_pointer = middle;
+            else if (snaps.members)
+                m_pointer = picker.PointOnMember(*member, position);
+        }
+    }
+    if (!m_pointer && !scene.Bounds().IsEmpty()) {
+        // Off the objects (or on one no snap takes): the point of the ground the model stands on.
         const Camera::Ray ray = camera.RayThrough(position);
         const float ground = scene.Bounds().minimum.z();
         if (std::abs(ray.direction.z()) > 1e-6f) {
             const float along = (ground - ray.origin.z()) / ray.direction.z();
             if (along > 0.0f)
                 m_pointer = ray.origin + ray.direction * along;
+        }
+        if (m_pointer && snaps.grid) {
+            // The grid's lines lie on whole metres of the model.
+            Geometry::Point3D onGrid = scene.ToModel(*m_pointer);
+            onGrid.x = std::round(onGrid.x / c_gridSpacing) * c_gridSpacing;
+            onGrid.y = std::round(onGrid.y / c_gridSpacing) * c_gridSpacing;
+            m_pointer = scene.ToScene(onGrid);
         }
     }
     m_viewport.AnnouncePointer();

@@ -96,4 +96,13 @@ QString ModelMessage::KindPluralNameId(ObjectKind kind)
     return {};
 }
 
+ObjectId ModelMessage::Subject() const
+{
+    for (const Argument& argument : arguments) {
+        if (const auto* object = std::get_if<ObjectRef>(&argument))
+            return MakeObjectId(object->kind, object->number);
+    }
+    return 0;
+}
+
 } // namespace Orvo::Kernel::Model

@@ -2,6 +2,7 @@
 
 #include "HostKitExport.h"
 #include "ModelRecords.h"
+#include "ObjectIds.h"
 
 #include <QString>
 #include <variant>
@@ -38,6 +39,9 @@ struct HOSTKIT_EXPORT ModelMessage
 
     // The text in the user's language; without a loader, the identifier and its arguments.
     QString ToText(const Framework::IStringLoader* loader) const;
+
+    // The first object the message names, 0 when it names none.
+    ObjectId Subject() const;
 
     static QString KindNameId(ObjectKind kind);
     static QString KindPluralNameId(ObjectKind kind);

@@ -1,4 +1,5 @@
 target_sources(OrvoHostKit PRIVATE
+    ${CMAKE_CURRENT_LIST_DIR}/ActiveEntities.h ${CMAKE_CURRENT_LIST_DIR}/ActiveEntities.cpp
     ${CMAKE_CURRENT_LIST_DIR}/MaterialCatalog.h ${CMAKE_CURRENT_LIST_DIR}/MaterialCatalog.cpp
     ${CMAKE_CURRENT_LIST_DIR}/ModelGenerator.h ${CMAKE_CURRENT_LIST_DIR}/ModelGenerator.cpp
     ${CMAKE_CURRENT_LIST_DIR}/ModelMessage.h ${CMAKE_CURRENT_LIST_DIR}/ModelMessage.cpp

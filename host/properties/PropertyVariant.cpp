@@ -1,5 +1,7 @@
 #include "PropertyVariant.h"
 
+#include "basiccomponents/DisplayUnits.h"
+
 #include "basiccomponents/NumberHelper.h"
 
 #include <QColor>
@@ -108,16 +110,20 @@ QString PropertyVariant::ChoiceText(std::int32_t index, const PropertyDefinition
 }
 
 QVariant PropertyVariant::ToVariant(const PropertyValue& value, const PropertyDefinition& definition,
-                                    const IStringLoader* strings)
+                                    const IStringLoader* strings,
+                                    const UI::BasicComponents::DisplayUnits* units)
 {
     if (definition.type == PropertyType::List && std::holds_alternative<std::int32_t>(value))
         return ChoiceText(std::get<std::int32_t>(value), definition, strings);
+    if (const auto* number = std::get_if<double>(&value); number && units)
+        return units->ForStoredUnit(definition.units, definition.decimals).ToShown(*number);
     return std::visit([](const auto& alternative) { return QVariant::fromValue(alternative); }, value);
 }
 
 std::optional<PropertyValue> PropertyVariant::FromVariant(const QVariant& value,
                                                           const PropertyDefinition& definition,
-                                                          const IStringLoader* strings)
+                                                          const IStringLoader* strings,
+                                                          const UI::BasicComponents::DisplayUnits* units)
 {
     if (!value.isValid() || value.isNull())
         return std::nullopt;
@@ -128,7 +134,8 @@ std::optional<PropertyValue> PropertyVariant::FromVariant(const QVariant& value,
         return ReadInteger(value);
     case PropertyType::Real:
         if (auto number = ReadNumber(value))
-            return *number;
+            return units ? units->ForStoredUnit(definition.units, definition.decimals).FromShown(*number)
+                         : *number;
         return std::nullopt;
     case PropertyType::String:
         if (!value.canConvert<QString>())

@@ -233,6 +233,7 @@ StructuralModel::EditResult StructuralModel::Edit(const std::vector<ObjectId>& i
                                                   const ValueFor& valueFor, EditKind editKind)
 {
     EditResult result;
+    ObjectId firstRejected = 0;
     std::vector<ObjectId> changed;
     const PropertyDefinition* named = nullptr;
     const bool undoable = editKind == EditKind::User;
@@ -269,8 +270,10 @@ StructuralModel::EditResult StructuralModel::Edit(const std::vector<ObjectId>& i
         if (rejection) {
             DebugOutput(
                 QStringLiteral("Object %1 keeps its value: %2").arg(id).arg(definition->Describe(rejection)));
-            if (result.rejected++ == 0)
+            if (result.rejected++ == 0) {
                 result.firstRejection = rejection;
+                firstRejected = id;
+            }
         }
     }
     m_membersAtEditedNodes.clear();
@@ -284,6 +287,9 @@ StructuralModel::EditResult StructuralModel::Edit(const std::vector<ObjectId>& i
         m_changeName = Text(ModelMessage(QStringLiteral("UI_UNDO_SET_PROPERTY"),
                                          { PlainText(named->nameId), ObjectsPhrase(changed) }));
     CloseChange();
+    // Only a user's edit is announced: the host's own writes report their refusals themselves.
+    if (m_eventBus && result.rejected > 0)
+        m_eventBus->Post(EditRejectedEvent { Text(result.firstRejection), firstRejected, result.rejected });
     return result;
 }
 

@@ -29,4 +29,13 @@ struct StructureChangedEvent
     std::vector<Model::ObjectKind> kinds;
 };
 
+// Posted when a user's edit was refused, wholly or for some of its objects: why, in the user's
+// language, and the first object that kept its value.
+struct EditRejectedEvent
+{
+    QString message;
+    ObjectId object = 0;
+    int rejected = 0;
+};
+
 } // namespace Orvo::Kernel::Framework

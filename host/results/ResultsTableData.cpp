@@ -1,5 +1,7 @@
 #include "ResultsTableData.h"
 
+#include "basiccomponents/DisplayUnits.h"
+
 #include "ResultsDatabase.h"
 #include "model/ModelMessage.h"
 
@@ -29,10 +31,19 @@ TableDataType TypeOf(const ResultsColumn& column)
 } // namespace
 
 ResultsTableData::ResultsTableData(ResultsTable table,
-                                   std::shared_ptr<const Framework::IStringLoader> strings)
+                                   std::shared_ptr<const Framework::IStringLoader> strings,
+                                   std::shared_ptr<const UI::BasicComponents::DisplayUnits> units)
     : m_table(table)
     , m_strings(std::move(strings))
+    , m_units(std::move(units))
 { }
+
+UI::BasicComponents::DisplayUnits::Shown ResultsTableData::Shown(const ResultsColumn& column) const
+{
+    if (m_units)
+        return m_units->ForStoredUnit(column.unit, column.decimals);
+    return { column.unit, 1.0, column.decimals };
+}
 
 QString ResultsTableData::Text(const QString& id) const
 {
@@ -74,8 +85,9 @@ std::vector<TableDataColumn> ResultsTableData::GetColumns() const
         column.id = source.name.toStdWString();
         column.label = Text(source.labelId).toStdWString();
         column.type = TypeOf(source);
-        column.unit = source.unit;
-        column.decimals = source.kind == ResultsColumn::Kind::Value ? source.decimals : -1;
+        const auto shown = Shown(source);
+        column.unit = shown.unit;
+        column.decimals = source.kind == ResultsColumn::Kind::Value ? shown.decimals : -1;
         column.readOnly = true;
         if (source.kind == ResultsColumn::Kind::End)
             column.listValues = { Text(QStringLiteral("UI_RESULTS_END_START")),
@@ -118,6 +130,7 @@ ResultsTableData::GetCells(int first, int count, const std::vector<std::wstring>
             = std::find_if(columns.begin(), columns.end(),
                            [&id](const ResultsColumn& candidate) { return candidate.name == id; });
         if (column != columns.end()) {
+            const auto shown = Shown(*column);
             const std::size_t position = std::size_t(column - columns.begin());
             for (std::size_t row = 0; row < rows.size(); ++row) {
                 TableDataCell& cell = content.cells[row];
@@ -135,8 +148,8 @@ ResultsTableData::GetCells(int first, int count, const std::vector<std::wstring>
                     cell.allValues = ends;
                     break;
                 case ResultsColumn::Kind::Value:
-                    cell.content = value.toDouble();
-                    cell.decimals = std::int16_t(column->decimals);
+                    cell.content = shown.ToShown(value.toDouble());
+                    cell.decimals = std::int16_t(shown.decimals);
                     break;
                 }
             }

@@ -2,6 +2,7 @@
 
 #include "HostKitExport.h"
 #include "ResultsSchema.h"
+#include "basiccomponents/DisplayUnits.h"
 #include "tables/ITableData.h"
 #include "tables/TableResultsTabInfo.h"
 
@@ -20,7 +21,9 @@ class ResultsDatabase;
 class HOSTKIT_EXPORT ResultsTableData : public Tables::ITableData
 {
 public:
-    ResultsTableData(ResultsTable table, std::shared_ptr<const Framework::IStringLoader> strings);
+    // With units, forces, moments and displacements are shown in the units the user chose.
+    ResultsTableData(ResultsTable table, std::shared_ptr<const Framework::IStringLoader> strings,
+                     std::shared_ptr<const UI::BasicComponents::DisplayUnits> units = nullptr);
 
     ResultsTable Table() const { return m_table; }
     // The results to show; null for none. The table's sort order carries over.
@@ -41,10 +44,12 @@ public:
 
 private:
     QString Text(const QString& id) const;
+    UI::BasicComponents::DisplayUnits::Shown Shown(const ResultsColumn& column) const;
     QString SetLabel(int position) const;
 
     ResultsTable m_table;
     std::shared_ptr<const Framework::IStringLoader> m_strings;
+    std::shared_ptr<const UI::BasicComponents::DisplayUnits> m_units;
     std::shared_ptr<ResultsDatabase> m_database;
     std::wstring m_sortColumn;
     Tables::TableSortOrder m_sortOrder = Tables::TableSortOrder::Unsorted;

@@ -1,6 +1,7 @@
 #include "ObjectTableData.h"
 
 #include "ObjectTableOrder.h"
+#include "basiccomponents/DisplayUnits.h"
 #include "framework/Debug.h"
 #include "properties/PropertyVariant.h"
 #include "properties/StructuralModel.h"
@@ -26,19 +27,27 @@ QString Text(const StructuralModel& model, const QString& id,
 struct ColumnReading
 {
     const PropertyDefinition& definition;
+    const UI::BasicComponents::DisplayUnits* units;
+    UI::BasicComponents::DisplayUnits::Shown shown;
     QStringList choices;
     QStringList parameterNames;
     QVariantList parameterValues;
     bool hasAction = false;
 
-    ColumnReading(const StructuralModel& model, const PropertyDefinition& property)
+    ColumnReading(const StructuralModel& model, const PropertyDefinition& property,
+                  const UI::BasicComponents::DisplayUnits* displayUnits)
         : definition(property)
+        , units(displayUnits)
+        , shown { property.units, 1.0, property.decimals }
     {
+        if (units)
+            shown = units->ForStoredUnit(definition.units, definition.decimals);
         for (const QString& choiceId : definition.choiceIds)
             choices << model.PlainText(choiceId);
         for (const NamedParameter& parameter : definition.parameters) {
             parameterNames << model.PlainText(parameter.nameId);
-            parameterValues << PropertyVariant::ToVariant(parameter.value, definition, model.Strings());
+            parameterValues << PropertyVariant::ToVariant(parameter.value, definition, model.Strings(),
+                                                          units);
         }
     }
 
@@ -49,6 +58,8 @@ struct ColumnReading
             return choices.value(*choice);
         if (const auto* color = std::get_if<QColor>(&value))
             return color->name();
+        if (const auto* number = std::get_if<double>(&value))
+            return shown.ToShown(*number);
         return std::visit([](const auto& alternative) { return QVariant::fromValue(alternative); }, value);
     }
 
@@ -57,7 +68,7 @@ struct ColumnReading
         TableDataCell cell;
         cell.valueType = TableDataType(definition.type);
         if (definition.type == PropertyType::Real)
-            cell.decimals = std::int16_t(definition.decimals);
+            cell.decimals = std::int16_t(shown.decimals);
         cell.allValues = choices;
         if (!definition.AppliesTo(structure, record))
             return cell;
@@ -90,9 +101,11 @@ struct ColumnReading
 
 } // namespace
 
-ObjectTableData::ObjectTableData(std::shared_ptr<StructuralModel> model, Model::ObjectKind kind)
+ObjectTableData::ObjectTableData(std::shared_ptr<StructuralModel> model, Model::ObjectKind kind,
+                                 std::shared_ptr<const UI::BasicComponents::DisplayUnits> units)
     : m_model(std::move(model))
     , m_kind(kind)
+    , m_units(std::move(units))
 { }
 
 const ObjectType& ObjectTableData::Type() const
@@ -124,13 +137,13 @@ std::vector<TableDataColumn> ObjectTableData::GetColumns() const
 {
     std::vector<TableDataColumn> columns;
     for (const PropertyDefinition& definition : Type().Properties()) {
-        const ColumnReading reading(*m_model, definition);
+        const ColumnReading reading(*m_model, definition, m_units.get());
         TableDataColumn column;
         column.id = definition.key.toStdWString();
         column.label = m_model->PlainText(definition.nameId).toStdWString();
         column.type = TableDataType(definition.type);
-        column.unit = definition.units;
-        column.decimals = definition.type == PropertyType::Real ? definition.decimals : -1;
+        column.unit = reading.shown.unit;
+        column.decimals = definition.type == PropertyType::Real ? reading.shown.decimals : -1;
         column.required = definition.required;
         column.readOnly = definition.readOnly;
         column.listValues = reading.choices;
@@ -182,7 +195,7 @@ ObjectTableData::GetCells(int first, int count, const std::vector<std::wstring>&
             contents.push_back(std::move(content));
             continue;
         }
-        ColumnReading reading(*m_model, *definition);
+        ColumnReading reading(*m_model, *definition, m_units.get());
         const auto& actions = Type().Actions();
         reading.hasAction
             = std::any_of(actions.begin(), actions.end(), [definition](const ObjectAction& action) {
@@ -282,8 +295,9 @@ std::optional<PropertyValue> ObjectTableData::ParseCell(const PropertyDefinition
                                                         const std::wstring& columnId, const QVariant& value,
                                                         TableUpdateResult& result) const
 {
-    const ColumnReading reading(*m_model, definition);
-    auto parsed = PropertyVariant::FromVariant(reading.Resolve(value), definition, m_model->Strings());
+    const ColumnReading reading(*m_model, definition, m_units.get());
+    auto parsed
+        = PropertyVariant::FromVariant(reading.Resolve(value), definition, m_model->Strings(), m_units.get());
     if (!parsed)
         result.rejections.push_back(
             { row, columnId,

@@ -13,6 +13,10 @@ class PropertyDefinition;
 class StructuralModel;
 } // namespace Orvo::Kernel::Framework
 
+namespace Orvo::UI::BasicComponents {
+class DisplayUnits;
+}
+
 namespace Orvo::Kernel::Tables {
 
 // The input table of one kind of object: a row per object, a column per property of the kind's
@@ -21,7 +25,9 @@ namespace Orvo::Kernel::Tables {
 class HOSTKIT_EXPORT ObjectTableData : public ITableInputTableData
 {
 public:
-    ObjectTableData(std::shared_ptr<Framework::StructuralModel> model, Model::ObjectKind kind);
+    // With units, quantities are shown and read in the units the user chose.
+    ObjectTableData(std::shared_ptr<Framework::StructuralModel> model, Model::ObjectKind kind,
+                    std::shared_ptr<const UI::BasicComponents::DisplayUnits> units = nullptr);
 
     Model::ObjectKind Kind() const { return m_kind; }
     // The model's objects of this kind changed: the sort order is made anew when next needed.
@@ -63,6 +69,7 @@ private:
 
     std::shared_ptr<Framework::StructuralModel> m_model;
     Model::ObjectKind m_kind;
+    std::shared_ptr<const UI::BasicComponents::DisplayUnits> m_units;
     std::wstring m_sortColumn;
     TableSortOrder m_sortOrder = TableSortOrder::Unsorted;
     // Row -> record position while sorted; empty while unsorted (rows are in number order).

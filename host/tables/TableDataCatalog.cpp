@@ -2,6 +2,7 @@
 
 #include "ObjectTableData.h"
 #include "TableDataEvents.h"
+#include "events/DisplayUnitsChanged.h"
 #include "framework/EventBus.h"
 #include "properties/StructuralModel.h"
 #include "properties/StructuralModelEvents.h"
@@ -22,7 +23,8 @@ TableWorkstation Workstation(const StructuralModel& model, std::wstring id, cons
 
 } // namespace
 
-TableDataCatalog::TableDataCatalog(std::shared_ptr<StructuralModel> model, std::shared_ptr<EventBus> eventBus)
+TableDataCatalog::TableDataCatalog(std::shared_ptr<StructuralModel> model, std::shared_ptr<EventBus> eventBus,
+                                   std::shared_ptr<const UI::BasicComponents::DisplayUnits> units)
     : m_model(std::move(model))
     , m_eventBus(std::move(eventBus))
 {
@@ -31,7 +33,7 @@ TableDataCatalog::TableDataCatalog(std::shared_ptr<StructuralModel> model, std::
     TableWorkstation loads
         = Workstation(*m_model, c_loadsWorkstation, QStringLiteral("UI_TABLES_WORKSTATION_LOADS"));
     for (ObjectKind kind : Model::c_allKinds) {
-        auto table = std::make_shared<ObjectTableData>(m_model, kind);
+        auto table = std::make_shared<ObjectTableData>(m_model, kind, units);
         m_objectTables.push_back(table);
         const bool isLoad = kind == ObjectKind::LoadCase || kind == ObjectKind::NodalLoad
             || kind == ObjectKind::MemberLoad || kind == ObjectKind::Combination;
@@ -44,6 +46,9 @@ TableDataCatalog::TableDataCatalog(std::shared_ptr<StructuralModel> model, std::
         return;
     // The model announces objects added or removed, then the values of the same change: the
     // tables that gained or lost rows hear of it once.
+    // Every value of a quantity may be shown in another unit now.
+    m_connections.push_back(m_eventBus->Subscribe<UI::Events::DisplayUnitsChanged>(
+        [this](const UI::Events::DisplayUnitsChanged&) { FollowModel({}, false); }));
     m_connections.push_back(
         m_eventBus->Subscribe<StructureChangedEvent>([this](const StructureChangedEvent& event) {
             FollowModel(event.kinds, true);

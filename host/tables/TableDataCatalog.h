@@ -13,6 +13,10 @@ class EventBus;
 class StructuralModel;
 } // namespace Orvo::Kernel::Framework
 
+namespace Orvo::UI::BasicComponents {
+class DisplayUnits;
+}
+
 namespace Orvo::Kernel::Tables {
 
 class ObjectTableData;
@@ -27,8 +31,11 @@ public:
     static inline const std::wstring c_loadsWorkstation = L"loads";
     static inline const std::wstring c_resultsWorkstation = L"results";
 
+    // With units, the object tables show quantities in the units the user chose, and follow a
+    // new choice.
     TableDataCatalog(std::shared_ptr<Framework::StructuralModel> model,
-                     std::shared_ptr<Framework::EventBus> eventBus);
+                     std::shared_ptr<Framework::EventBus> eventBus,
+                     std::shared_ptr<const UI::BasicComponents::DisplayUnits> units = nullptr);
     ~TableDataCatalog();
     TableDataCatalog(const TableDataCatalog&) = delete;
     TableDataCatalog& operator=(const TableDataCatalog&) = delete;

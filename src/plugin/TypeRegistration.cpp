@@ -21,6 +21,10 @@
 #include "menusystem/MenuItemsModel.h"
 #include "menusystem/MenuSystem.h"
 #include "menusystem/SubcommandsModel.h"
+#include "notifications/Notifications.h"
+#include "notifications/NotificationsButtonsSelectionModel.h"
+#include "notifications/NotificationsFilterModel.h"
+#include "notifications/NotificationsModel.h"
 #include "properties/ActionsModel.h"
 #include "properties/EntityModel.h"
 #include "properties/IllustrationData.h"
@@ -32,6 +36,9 @@
 #include "spotlight/Spotlight.h"
 #include "spotlight/SpotlightModel.h"
 #include "spotlight/SpotlightProxyModel.h"
+#include "status/ProcessToolbar.h"
+#include "status/StatusBar.h"
+#include "status/ViewBar.h"
 #include "tables/FilterBarModel.h"
 #include "tables/MultiEditAction.h"
 #include "tables/MultiEditActionSolver.h"
@@ -79,6 +86,19 @@ void RegisterQtComponentsTypes(const char* uri)
     qmlRegisterType<MenuItemsFilterModel>(uri, major, minor, "MenuItemsFilterModel");
     qmlRegisterType<MenuSystem>(uri, major, minor, "MenuSystem_Cpp");
     qmlRegisterType<HotkeyHandler>(uri, major, minor, "HotkeyHandler_Cpp");
+    qmlRegisterType<UnitsSubDataModel>(uri, major, minor, "UnitsSubDataModel");
+    qmlRegisterType<ScaleSubDataModel>(uri, major, minor, "ScaleSubDataModel");
+    qmlRegisterType<SnappingSubDataModel>(uri, major, minor, "SnappingSubDataModel");
+    qmlRegisterType<CoordinatesSubModel>(uri, major, minor, "CoordinatesSubModel");
+    qmlRegisterType<MasterEntitySubDataModel>(uri, major, minor, "MasterEntitySubDataModel");
+    qmlRegisterType<StatusBarDataModel>(uri, major, minor, "StatusbarData");
+    qmlRegisterType<StatusBar>(uri, major, minor, "StatusBar_Cpp");
+    qmlRegisterType<ProcessToolbar>(uri, major, minor, "ProcessToolbar_Cpp");
+    qmlRegisterType<CenterButtonData>(uri, major, minor, "CenterButtonData");
+    qmlRegisterType<TooltipData>(uri, major, minor, "TooltipData");
+    qmlRegisterType<ViewBar>(uri, major, minor, "ViewBar_Cpp");
+    qmlRegisterType<MoreOptionsMenuModel>(uri, major, minor, "MoreOptionsMenuModel");
+    qmlRegisterType<ViewBarUserConfiguration>(uri, major, minor, "ViewBarUserConfiguration");
     qmlRegisterType<PropertiesPanelUserConfiguration>(uri, major, minor, "PropertiesPanelUserConfiguration");
     qmlRegisterType<ActionsModel>(uri, major, minor, "ActionsModel");
     qmlRegisterType<EntityModel>(uri, major, minor, "EntityModel");
@@ -118,6 +138,11 @@ void RegisterQtComponentsTypes(const char* uri)
     qmlRegisterType<MarkingMenuConfig>(uri, major, minor, "MarkingMenuConfig");
     qmlRegisterType<MarkingMenu>(uri, major, minor, "MarkingMenu_Cpp");
     qmlRegisterType<QtExtensions::FramelessWindow>(uri, major, minor, "FramelessWindow");
+    qmlRegisterType<Notifications>(uri, major, minor, "Notifications_Cpp");
+    qmlRegisterType<NotificationsModel>(uri, major, minor, "NotificationsModel");
+    qmlRegisterType<NotificationsFilterModel>(uri, major, minor, "NotificationsFilterModel");
+    qmlRegisterType<NotificationsButtonsSelectionModel>(uri, major, minor,
+                                                        "NotificationsButtonsSelectionModel");
     qmlRegisterType<GraphicView>(uri, major, minor, "GraphicView_Cpp");
     qmlRegisterType<Viewport>(uri, major, minor, "Viewport");
     qmlRegisterSingletonType<StringsQtComponents>(uri, major, minor, "Strings", CreateStrings);

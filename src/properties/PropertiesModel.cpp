@@ -4,6 +4,9 @@
 #include "PropertiesRoles.h"
 #include "PropertyRowsBuilder.h"
 #include "PropertyValueConversion.h"
+#include "events/DisplayUnitsChanged.h"
+#include "framework/EventBus.h"
+#include "framework/ServiceCatalog.h"
 #include "plugin/QtComponentsText.h"
 #include "properties/StructuralModel.h"
 
@@ -39,8 +42,9 @@ bool Contains(const std::vector<QString>& names, const QString& name)
 QVariant Bound(const PropertyDefinition& definition, const std::optional<double>& bound, bool lower)
 {
     if (bound)
-        return definition.type == PropertyType::Integer ? QVariant(static_cast<int>(*bound))
-                                                        : QVariant(*bound);
+        return definition.type == PropertyType::Integer
+            ? QVariant(static_cast<int>(*bound))
+            : QVariant(PropertyValueConversion::Shown(definition).ToShown(*bound));
     if (definition.type == PropertyType::Integer)
         return lower ? std::numeric_limits<std::int32_t>::lowest() : std::numeric_limits<std::int32_t>::max();
     return lower ? std::numeric_limits<double>::lowest() : std::numeric_limits<double>::max();
@@ -50,7 +54,25 @@ QVariant Bound(const PropertyDefinition& definition, const std::optional<double>
 
 PropertiesModel::PropertiesModel(QObject* parent)
     : QAbstractListModel(parent)
-{ }
+{
+    if (const auto catalog = Kernel::Framework::ServiceCatalog::Global()) {
+        if (const auto eventbus = catalog->Get<Kernel::Framework::EventBus>())
+            m_unitsConnection = eventbus->Subscribe<Events::DisplayUnitsChanged>(
+                [this](const Events::DisplayUnitsChanged&) { FollowDisplayUnits(); });
+    }
+}
+
+void PropertiesModel::FollowDisplayUnits()
+{
+    // The distinct values are kept as shown, so they are gathered again in the new units; every
+    // number, unit, bound and decimal count of the rows may have changed.
+    for (PropertyItem& item : m_items) {
+        if (item.IsProperty())
+            item.values = CollectValues(*item.definition);
+    }
+    if (!m_items.empty())
+        emit dataChanged(index(0), index(rowCount() - 1));
+}
 
 PropertiesModel::~PropertiesModel() = default;
 
@@ -129,7 +151,7 @@ QVariant PropertiesModel::PropertyData(const PropertyItem& item, int row, int ro
     case mixedRole:
         return values.distinctCount > 1;
     case unitsRole:
-        return definition.units;
+        return PropertyValueConversion::Shown(definition).unit;
     case isMinMaxRole:
         return definition.minimum.has_value() || definition.maximum.has_value();
     case minRole:
@@ -137,7 +159,8 @@ QVariant PropertiesModel::PropertyData(const PropertyItem& item, int row, int ro
     case maxRole:
         return Bound(definition, definition.maximum, false);
     case decimalsRole:
-        return definition.type == PropertyType::Integer ? 0 : definition.decimals;
+        return definition.type == PropertyType::Integer ? 0
+                                                        : PropertyValueConversion::Shown(definition).decimals;
     case isCollapsedRole:
         return item.collapsed;
     case isBasicRole:

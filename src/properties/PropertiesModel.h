@@ -4,6 +4,8 @@
 #include "properties/PropertyValue.h"
 #include "properties/StructuralModel.h"
 
+#include "framework/EventConnection.h"
+
 #include <QAbstractListModel>
 #include <QtQml/qqmlregistration.h>
 #include <cstdint>
@@ -70,6 +72,7 @@ private:
     QVariant PropertyData(const PropertyItem& item, int row, int role) const;
     QVariant HeaderData(const PropertyItem& item, int row, int role) const;
     std::vector<const Kernel::Framework::PropertyDefinition*> CommonDefinitions() const;
+    void FollowDisplayUnits();
     PropertyItemValues CollectValues(const Kernel::Framework::PropertyDefinition& definition) const;
     std::vector<ShownObject> ResolveShown() const;
     bool WriteValue(const PropertyItem& item, const QVariant& value);
@@ -82,6 +85,7 @@ private:
     std::vector<const Kernel::Framework::PropertyDefinition*> m_definitions;
     std::vector<PropertyItem> m_items;
     std::vector<QString> m_collapsedCategories;
+    Kernel::Framework::EventConnection m_unitsConnection;
 };
 
 } // namespace Orvo::UI::UIComponents

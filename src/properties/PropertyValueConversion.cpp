@@ -20,6 +20,11 @@ std::shared_ptr<const IStringLoader> Strings()
     return ServiceCatalog::Global()->Get<IStringLoader>();
 }
 
+std::shared_ptr<const BasicComponents::DisplayUnits> Units()
+{
+    return ServiceCatalog::Global()->Get<BasicComponents::DisplayUnits>();
+}
+
 QString ColorName(const QColor& color)
 {
     return color.name(color.alpha() == 255 ? QColor::HexRgb : QColor::HexArgb);
@@ -27,9 +32,16 @@ QString ColorName(const QColor& color)
 
 } // namespace
 
+BasicComponents::DisplayUnits::Shown Shown(const PropertyDefinition& definition)
+{
+    if (const auto units = Units())
+        return units->ForStoredUnit(definition.units, definition.decimals);
+    return { definition.units, 1.0, definition.decimals };
+}
+
 QVariant ToVariant(const PropertyValue& value, const PropertyDefinition& definition)
 {
-    return PropertyVariant::ToVariant(value, definition, Strings().get());
+    return PropertyVariant::ToVariant(value, definition, Strings().get(), Units().get());
 }
 
 MixedValues::Value ToMixedValue(const PropertyValue& value, const PropertyDefinition& definition)
@@ -44,7 +56,7 @@ MixedValues::Value ToMixedValue(const PropertyValue& value, const PropertyDefini
                 return PropertyVariant::ChoiceText(v, definition, Strings().get());
             return MixedValues::Integer { v };
         }
-        MixedValues::Value operator()(double v) const { return v; }
+        MixedValues::Value operator()(double v) const { return Shown(definition).ToShown(v); }
         MixedValues::Value operator()(const QString& v) const { return v; }
         MixedValues::Value operator()(const QColor& v) const { return ColorName(v); }
     };
@@ -53,7 +65,7 @@ MixedValues::Value ToMixedValue(const PropertyValue& value, const PropertyDefini
 
 std::optional<PropertyValue> FromVariant(const QVariant& value, const PropertyDefinition& definition)
 {
-    return PropertyVariant::FromVariant(value, definition, Strings().get());
+    return PropertyVariant::FromVariant(value, definition, Strings().get(), Units().get());
 }
 
 } // namespace Orvo::UI::UIComponents::PropertyValueConversion

@@ -1,6 +1,7 @@
 #include "TablePanel.h"
 
 #include "TablesLogging.h"
+#include "events/DisplayUnitsChanged.h"
 #include "framework/EventBus.h"
 #include "framework/ServiceCatalog.h"
 #include "qtextensions/File.h"
@@ -49,6 +50,19 @@ TablePanel::TablePanel(QQuickItem* parent)
     if (const auto eventBus = catalog ? catalog->Get<EventBus>() : nullptr)
         m_changedConnection = eventBus->Subscribe<TableDataChangedEvent>(
             [this](const TableDataChangedEvent& event) { OnTableDataChanged(event); });
+    if (const auto eventBus = catalog ? catalog->Get<EventBus>() : nullptr)
+        m_unitsConnection = eventBus->Subscribe<Events::DisplayUnitsChanged>(
+            [this](const Events::DisplayUnitsChanged&) { ReloadTable(); });
+}
+
+void TablePanel::ReloadTable()
+{
+    if (!m_table)
+        return;
+    const QString id = m_tableId;
+    RememberLayout();
+    m_table.reset();
+    ShowTable(id);
 }
 
 TablePanel::~TablePanel() = default;

@@ -99,6 +99,9 @@ private:
     void FollowSelectedTab();
     void FollowOpenedTab(const QString& id, bool opened);
     void ShowTable(const QString& id);
+    // The columns' titles and decimals carry the units the user chose: the shown table is taken
+    // down and shown again, keeping its layout.
+    void ReloadTable();
     void RememberWorkstation();
     void RememberLayout();
     void UpdateAlerts(const std::vector<std::wstring>& tableIds);
@@ -118,6 +121,7 @@ private:
     std::shared_ptr<Kernel::Tables::ITableData> m_table;
     std::vector<std::unique_ptr<ColumnDataAdapter>> m_adapters;
     Kernel::Framework::EventConnection m_changedConnection;
+    Kernel::Framework::EventConnection m_unitsConnection;
 };
 
 } // namespace Orvo::UI::UIComponents

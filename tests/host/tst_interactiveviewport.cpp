@@ -62,6 +62,8 @@ private slots:
     void shouldClickToSelect_data();
     void shouldClickToSelect();
     void shouldAnnounceThePointerOverTheModel();
+    void shouldSnapThePointerAsTheUserChose_data();
+    void shouldSnapThePointerAsTheUserChose();
     void shouldLeaveTheServiceWhenInvalidated();
     void shouldChooseSoftwareWithoutAnOpenGLContext();
     void shouldShowTheAnalysisResultsWhileTheyHold();
@@ -232,6 +234,49 @@ void tst_InteractiveViewport::shouldAnnounceThePointerOverTheModel()
     view.MouseMove(Pointer(200, 2));
     QVERIFY(!pointer.Last().valid);
     QCOMPARE(view.GetHoveredObject(), 0);
+}
+
+void tst_InteractiveViewport::shouldSnapThePointerAsTheUserChose_data()
+{
+    QTest::addColumn<QString>("where"); // "middle" of the first column, a "ground" point
+    QTest::addColumn<QString>("snap");
+    QTest::addColumn<bool>("on");
+    QTest::addColumn<bool>("snapped");
+    QTest::newRow("near a member's middle, with midpoints")
+        << "middle" << UI::DataModel::Settings::c_snapToMidpoints << true << true;
+    QTest::newRow("near a member's middle, without them")
+        << "middle" << UI::DataModel::Settings::c_snapToMidpoints << false << false;
+    QTest::newRow("on the ground, with the grid")
+        << "ground" << UI::DataModel::Settings::c_snapToGrid << true << true;
+    QTest::newRow("on the ground, without it")
+        << "ground" << UI::DataModel::Settings::c_snapToGrid << false << false;
+}
+
+void tst_InteractiveViewport::shouldSnapThePointerAsTheUserChose()
+{
+    QFETCH(QString, where);
+    QFETCH(QString, snap);
+    QFETCH(bool, on);
+    QFETCH(bool, snapped);
+    RecordingView& view = *m_view;
+    auto settings = Kernel::Framework::ServiceCatalog::Global()->Get<UI::DataModel::Settings>();
+    QVERIFY(settings->SetValue(snap, on));
+    EventRecorder<PointerPositionChangedEvent> pointer(*m_graphics->GetEventBus());
+
+    // A few pixels off the point a snap would take.
+    const auto& scene = view.Scene();
+    const Geometry::Point3D target = where == QLatin1String("middle") ? Geometry::Point3D { 0.0, 0.0, 2.25 }
+                                                                      : Geometry::Point3D { 2.0, 3.0, 0.0 };
+    const QPointF at = view.GetCamera().Project(scene.ToScene(target)).position + QPointF(0.0, 3.0);
+    view.MouseMove(Pointer(at.x(), at.y()));
+
+    QVERIFY(pointer.Count() > 0 && pointer.Last().valid);
+    const Geometry::Point3D& position = pointer.Last().position;
+    const double distance = std::hypot(position.x - target.x, position.y - target.y, position.z - target.z);
+    if (snapped)
+        QVERIFY2(distance < 1e-4, qPrintable(QString::number(distance)));
+    else
+        QVERIFY2(distance > 1e-3, qPrintable(QString::number(distance)));
 }
 
 void tst_InteractiveViewport::shouldLeaveTheServiceWhenInvalidated()

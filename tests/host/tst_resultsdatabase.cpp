@@ -275,6 +275,7 @@ void tst_ResultsDatabase::serviceRunsTheAnalysisAndFillsTheResultsTables()
     QVERIFY(service->statusText().startsWith("Analysed 144 degrees of freedom in "));
     QCOMPARE(finished.Count(), 1u);
     QVERIFY(finished.Last().succeeded);
+    QCOMPARE(finished.Last().object, 0);
     QCOMPARE(changed.Last().tableIds.size(), 4u);
 
     model->SetValue({ Model::MakeObjectId(Model::ObjectKind::Node, 30) }, "node.x", 1.0);
@@ -291,6 +292,7 @@ void tst_ResultsDatabase::serviceReportsWhyAnAnalysisFailed()
         structure.Nodes().Append({ 0, 9.0, 0.0, 0.0, {} });
     });
     auto service = services->Get<AnalysisService>();
+    EventRecorder<AnalysisFinishedEvent> finished(*services->Get<Framework::EventBus>());
     QSignalSpy done(service.get(), &AnalysisService::finished);
 
     QVERIFY(service->start());
@@ -298,6 +300,9 @@ void tst_ResultsDatabase::serviceReportsWhyAnAnalysisFailed()
 
     QCOMPARE(done.takeFirst().at(0).toBool(), false);
     QCOMPARE(service->statusText(), "Node 5 is not connected to any member or support");
+    // The event names the node, so that a message about it can select it.
+    QCOMPARE(finished.Count(), 1u);
+    QCOMPARE(finished.Last().object, Model::MakeObjectId(Model::ObjectKind::Node, 5));
     QVERIFY(!service->hasResults());
     QCOMPARE(service->progress(), 0.0);
 }

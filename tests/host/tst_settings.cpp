@@ -78,6 +78,10 @@ void tst_Settings::shouldAcceptOnlyValuesOfTheSetting_data()
     QTest::newRow("a renderer that exists") << Settings::c_rendererType << QVariant(4) << true;
     QTest::newRow("a renderer that does not") << Settings::c_rendererType << QVariant(5) << false;
     QTest::newRow("half a renderer") << Settings::c_rendererType << QVariant(1.5) << false;
+    QTest::newRow("a unit symbol") << Settings::c_lengthUnit << QVariant(QStringLiteral("mm")) << true;
+    QTest::newRow("a number for a name") << Settings::c_accountName << QVariant(12) << false;
+    QTest::newRow("a name longer than any name")
+        << Settings::c_accountName << QVariant(QString(300, QLatin1Char('x'))) << false;
     QTest::newRow("a setting that does not exist")
         << QStringLiteral("Interaction/Unknown") << QVariant(1) << false;
 }

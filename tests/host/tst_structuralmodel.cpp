@@ -169,12 +169,17 @@ void tst_StructuralModel::refusedValuesChangeNothing()
     QFETCH(QString, reason);
     const Structure before = m_model->Structure();
     EventRecorder<ObjectValuesChangedEvent> changes(*m_services->Get<EventBus>());
+    EventRecorder<EditRejectedEvent> rejections(*m_services->Get<EventBus>());
 
     QTest::ignoreMessage(QtDebugMsg, QRegularExpression("keeps its value"));
     const auto result = m_model->SetValue({ object }, key, value);
 
     QCOMPARE(result.rejected, 1);
     QCOMPARE(m_model->Text(result.firstRejection), reason);
+    // The refusal is announced with the object that kept its value.
+    QCOMPARE(rejections.Count(), 1u);
+    QCOMPARE(rejections.Last().message, reason);
+    QCOMPARE(rejections.Last().object, object);
     QVERIFY(SameStructure(m_model->Structure(), before));
     QCOMPARE(changes.Count(), 0u);
     QCOMPARE(m_model->UndoStack()->count(), 0);

@@ -11,7 +11,11 @@ TestCase {
     function test_create_data() {
         return [
             "Spotlight_Cpp", "SpotlightModel", "SpotlightProxyModel", "SubcommandsModel",
-            "MenuItemsModel", "MenuItemsFilterModel", "MenuSystem_Cpp", "HotkeyHandler_Cpp", "PropertiesPanelUserConfiguration", "ActionsModel", "EntityModel",
+            "MenuItemsModel", "MenuItemsFilterModel", "MenuSystem_Cpp", "HotkeyHandler_Cpp",
+            "UnitsSubDataModel", "ScaleSubDataModel", "SnappingSubDataModel", "CoordinatesSubModel",
+            "MasterEntitySubDataModel", "StatusbarData", "StatusBar_Cpp", "ProcessToolbar_Cpp", "CenterButtonData", "TooltipData",
+            "ViewBar_Cpp", "MoreOptionsMenuModel", "ViewBarUserConfiguration",
+            "PropertiesPanelUserConfiguration", "ActionsModel", "EntityModel",
             "PropertiesModel", "PropertiesPanel_Cpp", "PropertiesProxyModel",
             "InputPanel_Cpp", "InputPanelContainerModel", "InputPanelContainerProxyModel", "FilterBarItemProxyModel",
             "FilterBarItemModel", "TagModel", "InputPanelUserConfiguration",
@@ -22,7 +26,9 @@ TestCase {
             "TableColumnsModel", "TableContentModel", "MultiEditAction", "MultiEditActionSolver",
             "MultiEditSearchResult", "TableContentFilterModel", "TableSelectionModel",
             "TableSelectionFilterModel", "FilterBarModel",
-            "MarkingMenuSectionConfig", "MarkingMenuConfig", "MarkingMenu_Cpp"
+            "MarkingMenuSectionConfig", "MarkingMenuConfig", "MarkingMenu_Cpp",
+            "Notifications_Cpp", "NotificationsModel", "NotificationsFilterModel",
+            "NotificationsButtonsSelectionModel"
         ].map(type => ({ tag: type, type: type }))
     }
 
