@@ -4,7 +4,7 @@ import Qml.QtComponents
 import BasicComponents.Constants
 
 // One foldable container of the input panel: its header, and while unfolded the group's
-// fields, each a line with its label and value.
+// fields, each a line with its label and editor.
 ColumnLayout {
     id: container
 
@@ -12,49 +12,40 @@ ColumnLayout {
     required property string title
     required property bool folded
     required property var fields
+    // Where the fields' values go; the panel hands it over.
+    property InputPanelContainerModel containerModel: null
 
     // The header was clicked: the holder folds or unfolds the container.
     signal foldRequested(int row, bool folded)
 
-    spacing: 2
+    spacing: 4
 
     InputContainerHeader_UI {
+        objectName: "containerHeader"
         Layout.fillWidth: true
         titleText: container.title
         folded: container.folded
 
         MouseArea {
             anchors.fill: parent
+            cursorShape: Qt.PointingHandCursor
             onClicked: container.foldRequested(container.index, !container.folded)
         }
     }
 
+    // One editor per field, kept while the command has as many fields: a changed value updates
+    // the editors in place, so that the one the user is in keeps its focus.
     Repeater {
-        model: container.folded ? [] : container.fields
-        delegate: RowLayout {
-            id: field
-            required property var modelData
+        model: container.folded ? 0 : container.fields.length
+        delegate: InputField {
             Layout.fillWidth: true
-            Layout.leftMargin: 8
-            spacing: 8
-
-            Text {
-                Layout.preferredWidth: 90
-                text: field.modelData.label
-                font.family: BasicConstants.fonts.family
-                font.pixelSize: BasicConstants.fonts.normal
-                color: BasicConstants.colors.textSecondary
-            }
-            Text {
-                Layout.fillWidth: true
-                text: field.modelData.kind === InputPanelContainerModel.ChoiceField
-                      ? field.modelData.choices[field.modelData.choice]
-                      : field.modelData.kind === InputPanelContainerModel.NumberField
-                        ? field.modelData.number + " " + field.modelData.unit : ""
-                font.family: BasicConstants.fonts.family
-                font.pixelSize: BasicConstants.fonts.normal
-                color: BasicConstants.colors.text
-            }
+            Layout.leftMargin: BasicConstants.sizes.margin
+        }
+        // Wired here: a delegate sees nothing of this document.
+        onItemAdded: (index, item) => {
+            const field = item as InputField
+            field.field = Qt.binding(() => container.fields[index] ?? ({}))
+            field.containerModel = Qt.binding(() => container.containerModel)
         }
     }
 }
