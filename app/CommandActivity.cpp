@@ -18,6 +18,7 @@ using namespace Orvo::Kernel::Framework;
 namespace {
 
 const wchar_t* const c_saveCommand = L"5d85bcf0-15b0-44be-9bad-202d1b15dcbc";
+const wchar_t* const c_reportCommand = L"79b588a8-1ec0-49c6-af6b-a91ec61dffe5";
 
 // Where the demo's model would be saved: a save names its file, so the recent files show it.
 QString DemoDocument()
@@ -56,6 +57,8 @@ CommandActivity::CommandActivity(QObject* parent)
                 recentFiles->Add(DemoDocument());
             ++m_runCount;
             emit commandRun();
+            if (event.GetCommandUuid() == c_reportCommand)
+                emit reportRequested();
         });
 }
 

@@ -8,7 +8,8 @@
 
 // The demo's stand-in for the application's command handlers: it listens for the commands the
 // UI command processor runs and shows the last one, and lets the page lock command groups. Save
-// stands for saving the demo's model to its document, which the recent files then list.
+// stands for saving the demo's model to its document, which the recent files then list; Report
+// asks the shell to open the report preview.
 class CommandActivity : public QObject
 {
     Q_OBJECT
@@ -35,6 +36,8 @@ public:
 
 signals:
     void commandRun();
+    // The Report command ran.
+    void reportRequested();
 
 private:
     QString m_lastCommandUuid;
