@@ -11,6 +11,7 @@ import UIComponents.Spotlight
 import UIComponents.MenuSystem
 import UIComponents.Notifications
 import UIComponents.InputPanel
+import UIComponents.StatusBar
 import Demo
 
 ApplicationWindow {
@@ -63,6 +64,11 @@ ApplicationWindow {
             const page = pageStack.pageItem(pageList.currentIndex) as TablesPage
             if (page)
                 page.showTable(tableId)
+        }
+        // A setting chosen in the search opens where it is edited; the demo edits the profile's.
+        onSettingRequested: key => {
+            if (key.startsWith("Account/"))
+                accountButton.openSettings(key)
         }
         parent: window.contentItem
         z: 100
@@ -146,6 +152,10 @@ ApplicationWindow {
             NotificationsButton {
                 objectName: "notificationsButton"
                 centre: notifications
+            }
+            AccountButton {
+                id: accountButton
+                objectName: "accountButton"
             }
         }
     }
