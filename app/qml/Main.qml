@@ -81,6 +81,23 @@ ApplicationWindow {
         onObjectSelected: pageList.currentIndex = window.pageIndex("model")
     }
 
+    // The file a file command needs when it ran without one (Open, Save as, the first Save).
+    FilePrompt {
+        id: filePrompt
+        onFileChosen: (path, saving) => {
+            if (saving)
+                DemoShell.commandActivity.saveFileAs(path)
+            else
+                DemoShell.commandActivity.openFile(path)
+        }
+    }
+    Connections {
+        target: DemoShell.commandActivity
+        function onFileNameNeeded(save: bool, suggestedPath: string) {
+            filePrompt.ask(save, suggestedPath)
+        }
+    }
+
     // The application's menus, built from the shipped menu definition.
     menuBar: MenuSystem {
         objectName: "menuSystem"
