@@ -56,6 +56,7 @@ const QHash<QString, Definition>& Definitions()
         { Settings::c_snapToMembers, { Kind::Boolean } },
         { Settings::c_accountName, { Kind::Text } },
         { Settings::c_accountOrganisation, { Kind::Text } },
+        { Settings::c_accountInitials, { Kind::Text } },
         { Settings::c_accountCountry, { Kind::Text } },
     };
     return definitions;

@@ -51,6 +51,8 @@ public:
     // The local user profile and the country whose standards and units apply.
     static inline const QString c_accountName = QStringLiteral("Account/Name");
     static inline const QString c_accountOrganisation = QStringLiteral("Account/Organisation");
+    // The avatar's letters when the user chose them rather than have them derived from the name.
+    static inline const QString c_accountInitials = QStringLiteral("Account/Initials");
     static inline const QString c_accountCountry = QStringLiteral("Account/Country");
 
     explicit Settings(std::filesystem::path file,

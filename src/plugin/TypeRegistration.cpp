@@ -36,6 +36,8 @@
 #include "spotlight/Spotlight.h"
 #include "spotlight/SpotlightModel.h"
 #include "spotlight/SpotlightProxyModel.h"
+#include "status/AccountDataModel.h"
+#include "status/CountryCodeDataModel.h"
 #include "status/ProcessToolbar.h"
 #include "status/StatusBar.h"
 #include "status/ViewBar.h"
@@ -86,6 +88,8 @@ void RegisterQtComponentsTypes(const char* uri)
     qmlRegisterType<MenuItemsFilterModel>(uri, major, minor, "MenuItemsFilterModel");
     qmlRegisterType<MenuSystem>(uri, major, minor, "MenuSystem_Cpp");
     qmlRegisterType<HotkeyHandler>(uri, major, minor, "HotkeyHandler_Cpp");
+    qmlRegisterType<AccountDataModel>(uri, major, minor, "AccountDataModel");
+    qmlRegisterType<CountryCodeDataModel>(uri, major, minor, "CountryCodeDataModel");
     qmlRegisterType<UnitsSubDataModel>(uri, major, minor, "UnitsSubDataModel");
     qmlRegisterType<ScaleSubDataModel>(uri, major, minor, "ScaleSubDataModel");
     qmlRegisterType<SnappingSubDataModel>(uri, major, minor, "SnappingSubDataModel");

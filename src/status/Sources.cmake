@@ -1,5 +1,9 @@
 target_sources(QtComponentsCore PRIVATE
+    ${CMAKE_CURRENT_LIST_DIR}/AccountDataModel.h ${CMAKE_CURRENT_LIST_DIR}/AccountDataModel.cpp
     ${CMAKE_CURRENT_LIST_DIR}/CenterButtonData.h ${CMAKE_CURRENT_LIST_DIR}/CenterButtonData.cpp
+    ${CMAKE_CURRENT_LIST_DIR}/CountryCodeDataModel.h ${CMAKE_CURRENT_LIST_DIR}/CountryCodeDataModel.cpp
+    ${CMAKE_CURRENT_LIST_DIR}/CountryListModel.h ${CMAKE_CURRENT_LIST_DIR}/CountryListModel.cpp
+    ${CMAKE_CURRENT_LIST_DIR}/CountrySearchModel.h ${CMAKE_CURRENT_LIST_DIR}/CountrySearchModel.cpp
     ${CMAKE_CURRENT_LIST_DIR}/CoordinatesSubModel.h ${CMAKE_CURRENT_LIST_DIR}/CoordinatesSubModel.cpp
     ${CMAKE_CURRENT_LIST_DIR}/MasterEntitySubDataModel.h ${CMAKE_CURRENT_LIST_DIR}/MasterEntitySubDataModel.cpp
     ${CMAKE_CURRENT_LIST_DIR}/MoreOptionsMenuModel.h ${CMAKE_CURRENT_LIST_DIR}/MoreOptionsMenuModel.cpp

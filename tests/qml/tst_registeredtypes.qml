@@ -12,6 +12,7 @@ TestCase {
         return [
             "Spotlight_Cpp", "SpotlightModel", "SpotlightProxyModel", "SubcommandsModel",
             "MenuItemsModel", "MenuItemsFilterModel", "MenuSystem_Cpp", "HotkeyHandler_Cpp",
+            "AccountDataModel", "CountryCodeDataModel",
             "UnitsSubDataModel", "ScaleSubDataModel", "SnappingSubDataModel", "CoordinatesSubModel",
             "MasterEntitySubDataModel", "StatusbarData", "StatusBar_Cpp", "ProcessToolbar_Cpp", "CenterButtonData", "TooltipData",
             "ViewBar_Cpp", "MoreOptionsMenuModel", "ViewBarUserConfiguration",
