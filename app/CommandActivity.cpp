@@ -16,6 +16,8 @@ using namespace Orvo::Kernel::Framework;
 
 namespace {
 
+const wchar_t* const c_reportCommand = L"79b588a8-1ec0-49c6-af6b-a91ec61dffe5";
+
 bool RunWithFile(const wchar_t* command, const QString& path)
 {
     auto processor = ServiceCatalog::Global()->Get<IUICommandProcessor>();
@@ -51,6 +53,8 @@ CommandActivity::CommandActivity(QObject* parent)
             m_lastOrigin = QString::fromStdWString(CommandOrigin::DisplayName(event.GetOrigin()));
             ++m_runCount;
             emit commandRun();
+            if (event.GetCommandUuid() == c_reportCommand)
+                emit reportRequested();
         });
     m_fileNameConnection
         = eventbus->Subscribe<ModelFileNameNeededEvent>([this](const ModelFileNameNeededEvent& event) {

@@ -9,7 +9,7 @@
 // The demo's stand-in for the application's command handlers: it listens for the commands the
 // UI command processor runs and shows the last one, and lets the page lock command groups. When
 // a file command needs a file name (Open, Save as), it asks the window, which prompts the user
-// and runs the command again with the name.
+// and runs the command again with the name; Report asks the shell to open the report preview.
 class CommandActivity : public QObject
 {
     Q_OBJECT
@@ -41,6 +41,8 @@ signals:
     void commandRun();
     // A file command needs a file: save tells a save from an open.
     void fileNameNeeded(bool save, const QString& suggestedPath);
+    // The Report command ran.
+    void reportRequested();
 
 private:
     QString m_lastCommandUuid;

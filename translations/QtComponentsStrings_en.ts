@@ -943,6 +943,10 @@
         <source>Cancel</source>
         <translation>Cancel</translation>
     </message>
+    <message id="UI_COMMAND_REPORT">
+        <source>Report</source>
+        <translation>Report</translation>
+    </message>
     <message id="UI_COMMON_SEARCH">
         <source>Search</source>
         <translation>Search</translation>
@@ -1102,6 +1106,18 @@
     <message id="UI_APP_PAGE_COMMANDS">
         <source>Commands</source>
         <translation>Commands</translation>
+    </message>
+    <message id="UI_APP_PAGE_REPORT">
+        <source>Report</source>
+        <translation>Report</translation>
+    </message>
+    <message id="UI_APP_REPORT">
+        <source>Report</source>
+        <translation>Report</translation>
+    </message>
+    <message id="UI_APP_REPORT_PROJECT">
+        <source>Demo building</source>
+        <translation>Demo building</translation>
     </message>
     <message id="UI_APP_COMMANDS_SPOTLIGHT_TITLE">
         <source>Spotlight</source>
@@ -1954,6 +1970,138 @@
     <message id="UI_RESULTS_SET_COMBINATION">
         <source>CO%1 %2</source>
         <translation>CO%1 %2</translation>
+    </message>
+    <message id="UI_REPORT_TITLE">
+        <source>Structural analysis report</source>
+        <translation>Structural analysis report</translation>
+    </message>
+    <message id="UI_REPORT_PROJECT">
+        <source>Project</source>
+        <translation>Project</translation>
+    </message>
+    <message id="UI_REPORT_MODEL">
+        <source>Model</source>
+        <translation>Model</translation>
+    </message>
+    <message id="UI_REPORT_CREATED">
+        <source>Created</source>
+        <translation>Created</translation>
+    </message>
+    <message id="UI_REPORT_ANALYSIS">
+        <source>Analysis</source>
+        <translation>Analysis</translation>
+    </message>
+    <message id="UI_REPORT_ANALYSED">
+        <source>Analysed, %1 degrees of freedom</source>
+        <translation>Analysed, %1 degrees of freedom</translation>
+    </message>
+    <message id="UI_REPORT_NOT_ANALYSED">
+        <source>Not analysed yet</source>
+        <translation>Not analysed yet</translation>
+    </message>
+    <message id="UI_REPORT_VIEW">
+        <source>View of the model</source>
+        <translation>View of the model</translation>
+    </message>
+    <message id="UI_REPORT_RESULTS">
+        <source>Results</source>
+        <translation>Results</translation>
+    </message>
+    <message id="UI_REPORT_NO_RESULTS">
+        <source>No results: the model has not been analysed. Run the analysis and the results appear here.</source>
+        <translation>No results: the model has not been analysed. Run the analysis and the results appear here.</translation>
+    </message>
+    <message id="UI_REPORT_RESULTS_OUT_OF_DATE">
+        <source>These results are out of date: the model changed after the analysis.</source>
+        <translation>These results are out of date: the model changed after the analysis.</translation>
+    </message>
+    <message id="UI_REPORT_SUMMARY">
+        <source>Summary</source>
+        <translation>Summary</translation>
+    </message>
+    <message id="UI_REPORT_SUMMARY_SET">
+        <source>Load case / combination</source>
+        <translation>Load case / combination</translation>
+    </message>
+    <message id="UI_REPORT_SUMMARY_DISPLACEMENT">
+        <source>Largest displacement</source>
+        <translation>Largest displacement</translation>
+    </message>
+    <message id="UI_REPORT_SUMMARY_REACTIONS">
+        <source>Support reactions X / Y / Z</source>
+        <translation>Support reactions X / Y / Z</translation>
+    </message>
+    <message id="UI_REPORT_SUMMARY_MOMENT">
+        <source>Largest bending moment</source>
+        <translation>Largest bending moment</translation>
+    </message>
+    <message id="UI_REPORT_TABLE_EMPTY">
+        <source>None.</source>
+        <translation>None.</translation>
+    </message>
+    <message id="UI_REPORT_ROWS_OMITTED">
+        <source>%1 more rows are in the application&apos;s table.</source>
+        <translation>%1 more rows are in the application&apos;s table.</translation>
+    </message>
+    <message id="UI_REPORT_PAGE_OF">
+        <source>Page %1 of %2</source>
+        <translation>Page %1 of %2</translation>
+    </message>
+    <message id="UI_REPORT_ZOOM_PERCENT">
+        <source>%1 %</source>
+        <translation>%1 %</translation>
+    </message>
+    <message id="UI_REPORT_FILE_NAME">
+        <source>Report</source>
+        <translation>Report</translation>
+    </message>
+    <message id="UI_REPORT_ERROR_EMPTY">
+        <source>There is no report to export.</source>
+        <translation>There is no report to export.</translation>
+    </message>
+    <message id="UI_REPORT_ERROR_CANNOT_WRITE">
+        <source>The report could not be written to %1: %2</source>
+        <translation>The report could not be written to %1: %2</translation>
+    </message>
+    <message id="UI_REPORT_PREVIOUS_PAGE">
+        <source>Previous page</source>
+        <translation>Previous page</translation>
+    </message>
+    <message id="UI_REPORT_NEXT_PAGE">
+        <source>Next page</source>
+        <translation>Next page</translation>
+    </message>
+    <message id="UI_REPORT_ZOOM_IN">
+        <source>Zoom in</source>
+        <translation>Zoom in</translation>
+    </message>
+    <message id="UI_REPORT_ZOOM_OUT">
+        <source>Zoom out</source>
+        <translation>Zoom out</translation>
+    </message>
+    <message id="UI_REPORT_FIT_WIDTH">
+        <source>Fit width</source>
+        <translation>Fit width</translation>
+    </message>
+    <message id="UI_REPORT_REFRESH">
+        <source>Refresh</source>
+        <translation>Refresh</translation>
+    </message>
+    <message id="UI_REPORT_EXPORT_PDF">
+        <source>Export PDF</source>
+        <translation>Export PDF</translation>
+    </message>
+    <message id="UI_REPORT_EXPORT_PATH">
+        <source>File</source>
+        <translation>File</translation>
+    </message>
+    <message id="UI_REPORT_EXPORTED">
+        <source>Written to %1</source>
+        <translation>Written to %1</translation>
+    </message>
+    <message id="UI_REPORT_CONTENTS">
+        <source>Contents</source>
+        <translation>Contents</translation>
     </message>
     <message id="UI_RESULTS_TABLE_NODE_DISPLACEMENTS">
         <source>Node displacements</source>

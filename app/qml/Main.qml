@@ -30,7 +30,8 @@ ApplicationWindow {
         { name: "tables", lcid: "UI_APP_PAGE_TABLES", source: "TablesPage.qml" },
         { name: "analysis", lcid: "UI_APP_PAGE_ANALYSIS", source: "AnalysisPage.qml" },
         { name: "shortcuts", lcid: "UI_APP_PAGE_SHORTCUTS", source: "ShortcutsPage.qml" },
-        { name: "commands", lcid: "UI_APP_PAGE_COMMANDS", source: "CommandsPage.qml" }
+        { name: "commands", lcid: "UI_APP_PAGE_COMMANDS", source: "CommandsPage.qml" },
+        { name: "report", lcid: "UI_APP_PAGE_REPORT", source: "ReportPage.qml" }
     ]
 
     function pageIndex(name) {
@@ -91,10 +92,15 @@ ApplicationWindow {
                 DemoShell.commandActivity.openFile(path)
         }
     }
+    // File commands that need a file ask for it; the Report command of the File menu opens the
+    // report page.
     Connections {
         target: DemoShell.commandActivity
         function onFileNameNeeded(save: bool, suggestedPath: string) {
             filePrompt.ask(save, suggestedPath)
+        }
+        function onReportRequested() {
+            pageList.currentIndex = window.pageIndex("report")
         }
     }
 
@@ -131,6 +137,11 @@ ApplicationWindow {
                 model: [Strings.text("UI_APP_NUMBER_FORMAT_POINT"), Strings.text("UI_APP_NUMBER_FORMAT_COMMA")]
                 currentIndex: NumberFormat.decimalComma ? 1 : 0
                 onActivated: index => NumberFormat.decimalComma = index === 1
+            }
+            BasicButton {
+                objectName: "reportButton"
+                text: Strings.text("UI_APP_REPORT")
+                onClicked: pageList.currentIndex = window.pageIndex("report")
             }
             NotificationsButton {
                 objectName: "notificationsButton"

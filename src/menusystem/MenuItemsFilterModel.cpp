@@ -8,11 +8,6 @@ namespace Orvo::UI::UIComponents {
 MenuItemsFilterModel::MenuItemsFilterModel(QObject* parent)
     : QSortFilterProxyModel(parent)
 {
-    const auto announce = [this] { emit countChanged(); };
-    connect(this, &QAbstractItemModel::rowsInserted, this, announce);
-    connect(this, &QAbstractItemModel::rowsRemoved, this, announce);
-    connect(this, &QAbstractItemModel::modelReset, this, announce);
-    connect(this, &QAbstractItemModel::layoutChanged, this, announce);
     // A command shown or hidden changes its neighbouring separators too.
     setDynamicSortFilter(true);
     connect(this, &QAbstractProxyModel::sourceModelChanged, this, [this] {
@@ -21,23 +16,23 @@ MenuItemsFilterModel::MenuItemsFilterModel(QObject* parent)
     });
 }
 
-void MenuItemsFilterModel::setSearchText(const QString& searchText)
+const QStringList& MenuItemsFilterModel::SearchWords() const
 {
-    if (m_searchText == searchText)
-        return;
-    m_searchText = searchText;
-    m_words = SearchText::Words(searchText);
-    invalidateFilter();
-    emit searchTextChanged();
-    emit countChanged();
-}
-
-bool MenuItemsFilterModel::trigger(int row)
-{
-    auto* items = qobject_cast<MenuItemsModel*>(sourceModel());
-    if (!items || row < 0 || row >= rowCount())
-        return false;
-    return items->trigger(mapToSource(index(row, 0)).row());
+    // setFilterFixedString stores its text escaped; every escape is a backslash before the
+    // character itself, except NUL, which the words never hold.
+    const QString pattern = filterRegularExpression().pattern();
+    if (pattern != m_wordsPattern) {
+        QString text;
+        text.reserve(pattern.size());
+        for (qsizetype i = 0; i < pattern.size(); ++i) {
+            if (pattern.at(i) == QLatin1Char('\\') && i + 1 < pattern.size())
+                ++i;
+            text += pattern.at(i);
+        }
+        m_wordsPattern = pattern;
+        m_words = SearchText::Words(text);
+    }
+    return m_words;
 }
 
 bool MenuItemsFilterModel::IsSeparator(int sourceRow) const
@@ -56,12 +51,13 @@ bool MenuItemsFilterModel::filterAcceptsRow(int sourceRow, const QModelIndex& so
     if (sourceParent.isValid() || !Shown(sourceRow))
         return false;
     const QModelIndex item = sourceModel()->index(sourceRow, 0);
-    if (!m_words.isEmpty()) {
+    const QStringList& words = SearchWords();
+    if (!words.isEmpty()) {
         if (item.data(MenuItemsModel::ItemTypeRole).toInt() != MenuItemsModel::CommandItem)
             return false;
         const QString text = item.data(MenuItemsModel::TextRole).toString() + QLatin1Char(' ')
             + item.data(MenuItemsModel::PathRole).toString();
-        return SearchText::MatchQuality(SearchText::Folded(text), m_words) > 0;
+        return SearchText::MatchQuality(SearchText::Folded(text), words) > 0;
     }
     if (!IsSeparator(sourceRow))
         return true;

@@ -1,34 +1,21 @@
 #pragma once
 
 #include <QSortFilterProxyModel>
-#include <QtQml/qqmlregistration.h>
 
 namespace Orvo::UI::UIComponents {
 
 // What a menu shows of a MenuItemsModel: hidden commands left out, and the separators that would
-// then begin or end the menu or follow one another. With searchText (over a model of all
-// commands) only the commands whose name or path holds every word typed, separators and
+// then begin or end the menu or follow one another. With a fixed-string filter (over a model of
+// all commands) only the commands whose name or path holds every word typed, separators and
 // sub-menus left out.
+//
+// The class adds no meta-object of its own: QML sees a QSortFilterProxyModel, so a menu is
+// driven only through the proxy's own API (setFilterFixedString, index, mapToSource), and hosts
+// that know the proxy need nothing more.
 class MenuItemsFilterModel : public QSortFilterProxyModel
 {
-    Q_OBJECT
-    QML_NAMED_ELEMENT(MenuItemsFilterModel)
-    Q_PROPERTY(QString searchText READ searchText WRITE setSearchText NOTIFY searchTextChanged)
-    Q_PROPERTY(int count READ count NOTIFY countChanged)
-
 public:
     explicit MenuItemsFilterModel(QObject* parent = nullptr);
-
-    QString searchText() const { return m_searchText; }
-    void setSearchText(const QString& searchText);
-    int count() const { return rowCount(); }
-
-    // Runs the row's command through the source model.
-    Q_INVOKABLE bool trigger(int row);
-
-signals:
-    void searchTextChanged();
-    void countChanged();
 
 protected:
     bool filterAcceptsRow(int sourceRow, const QModelIndex& sourceParent) const override;
@@ -36,9 +23,11 @@ protected:
 private:
     bool Shown(int sourceRow) const;
     bool IsSeparator(int sourceRow) const;
+    const QStringList& SearchWords() const;
 
-    QString m_searchText;
-    QStringList m_words;
+    // The words of the filter's text, split again only when the text changes.
+    mutable QString m_wordsPattern;
+    mutable QStringList m_words;
 };
 
 } // namespace Orvo::UI::UIComponents

@@ -33,6 +33,7 @@
 #include "properties/PropertiesPanelUserConfiguration.h"
 #include "properties/PropertiesProxyModel.h"
 #include "qtextensions/FramelessWindow.h"
+#include "report/ReportPreview.h"
 #include "spotlight/Spotlight.h"
 #include "spotlight/SpotlightModel.h"
 #include "spotlight/SpotlightProxyModel.h"
@@ -116,6 +117,7 @@ void RegisterQtComponentsTypes(const char* uri)
     qmlRegisterType<FilterBarItemModel>(uri, major, minor, "FilterBarItemModel");
     qmlRegisterType<TagModel>(uri, major, minor, "TagModel");
     qmlRegisterType<InputPanelUserConfiguration>(uri, major, minor, "InputPanelUserConfiguration");
+    qmlRegisterType<ReportPreview>(uri, major, minor, "ReportPreview_Cpp");
     qmlRegisterType<ComboBoxProxyModel>(uri, major, minor, "ComboBoxProxyModel");
     qmlRegisterType<FilterItemsProxyModel>(uri, major, minor, "FilterItemsProxyModel");
     qmlRegisterType<SelectionModel>(uri, major, minor, "SelectionModel");

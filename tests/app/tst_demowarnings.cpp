@@ -14,7 +14,7 @@ private slots:
     {
         QTest::addColumn<QString>("page");
         for (const char* page : { "model", "overview", "valueentry", "markingmenu", "properties", "tables",
-                                  "analysis", "shortcuts" })
+                                  "analysis", "shortcuts", "report" })
             QTest::newRow(page) << QString::fromLatin1(page);
     }
 

@@ -19,7 +19,7 @@ TestCase {
             "PropertiesPanelUserConfiguration", "ActionsModel", "EntityModel",
             "PropertiesModel", "PropertiesPanel_Cpp", "PropertiesProxyModel",
             "InputPanel_Cpp", "InputPanelContainerModel", "InputPanelContainerProxyModel", "FilterBarItemProxyModel",
-            "FilterBarItemModel", "TagModel", "InputPanelUserConfiguration",
+            "FilterBarItemModel", "TagModel", "InputPanelUserConfiguration", "ReportPreview_Cpp",
             "ComboBoxProxyModel", "FilterItemsProxyModel", "SelectionModel", "SimpleComboBoxProxyModel",
             "CommandMenuHelper",
             "IntegerValidator", "RealValidator", "InlineCalculator", "IllustrationData",

@@ -15,8 +15,9 @@ Menu {
     property string menuId: ""
 
     // What the menu shows: the hidden commands and the separators they would leave are left out.
+    readonly property MenuItemsModel items: commandMenu.menuSystem ? commandMenu.menuSystem.menuItems(commandMenu.menuId) : null
     readonly property MenuItemsFilterModel shownItems: MenuItemsFilterModel {
-        sourceModel: commandMenu.menuSystem ? commandMenu.menuSystem.menuItems(commandMenu.menuId) : null
+        sourceModel: commandMenu.items
     }
 
     // A command of the menu ran.
@@ -136,7 +137,8 @@ Menu {
             isChecked: entry.isChecked
             row: entry.index
             onRun: row => {
-                if (commandMenu.shownItems.trigger(row))
+                const shown = commandMenu.shownItems
+                if (commandMenu.items && commandMenu.items.trigger(shown.mapToSource(shown.index(row, 0)).row))
                     commandMenu.commandRun()
             }
         }

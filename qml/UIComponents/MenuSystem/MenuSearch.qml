@@ -12,13 +12,14 @@ SearchField {
 
     property MenuSystem_Cpp menuSystem: null
     // How many commands the text finds.
-    readonly property int resultCount: results.count
+    readonly property int resultCount: list.count
 
     // A command found here ran.
     signal commandRun()
 
     function run(row) {
-        if (!results.trigger(row))
+        if (row < 0 || row >= list.count || !search.menuSystem
+                || !search.menuSystem.allCommands.trigger(results.mapToSource(results.index(row, 0)).row))
             return
         search.clear()
         search.commandRun()
@@ -31,10 +32,12 @@ SearchField {
     MenuItemsFilterModel {
         id: results
         sourceModel: search.menuSystem ? search.menuSystem.allCommands : null
-        searchText: search.text
     }
 
-    onTextChanged: list.currentIndex = 0
+    onTextChanged: {
+        results.setFilterFixedString(search.text)
+        list.currentIndex = 0
+    }
     Keys.onDownPressed: list.currentIndex = Math.min(list.currentIndex + 1, list.count - 1)
     Keys.onUpPressed: list.currentIndex = Math.max(list.currentIndex - 1, 0)
     Keys.onReturnPressed: search.run(list.currentIndex)
@@ -57,12 +60,12 @@ SearchField {
         }
 
         contentItem: Item {
-            implicitHeight: results.count > 0 ? list.contentHeight : empty.implicitHeight + 8
+            implicitHeight: list.count > 0 ? list.contentHeight : empty.implicitHeight + 8
 
             Text {
                 id: empty
                 anchors.centerIn: parent
-                visible: results.count === 0
+                visible: list.count === 0
                 text: Strings.text("UI_MENU_SEARCH_EMPTY")
                 font.family: BasicConstants.fonts.family
                 font.pixelSize: BasicConstants.fonts.normal
