@@ -2696,8 +2696,8 @@
         <translation>Design</translation>
     </message>
     <message id="UI_PROCESS_DESIGN_DESCRIPTION">
-        <source>Design checks of members against the standard of the chosen country; needs a design module, which is not installed</source>
-        <translation>Design checks of members against the standard of the chosen country; needs a design module, which is not installed</translation>
+        <source>Checks every member&apos;s stress from axial force and bending against its material&apos;s strength, in every load case and combination</source>
+        <translation>Checks every member&apos;s stress from axial force and bending against its material&apos;s strength, in every load case and combination</translation>
     </message>
     <message id="UI_PROCESS_DESIGN_ACTION">
         <source>Check design</source>
@@ -2822,6 +2822,58 @@
     <message id="UI_NOTIFICATIONS_SELECT_OBJECT">
         <source>Select the object</source>
         <translation>Select the object</translation>
+    </message>
+    <message id="UI_ACCOUNT_TITLE">
+        <source>Profile and region</source>
+        <translation>Profile and region</translation>
+    </message>
+    <message id="UI_ACCOUNT_DESCRIPTION">
+        <source>Your name on reports, and the country whose standards apply</source>
+        <translation>Your name on reports, and the country whose standards apply</translation>
+    </message>
+    <message id="UI_ACCOUNT_NAME">
+        <source>Name</source>
+        <translation>Name</translation>
+    </message>
+    <message id="UI_ACCOUNT_ORGANISATION">
+        <source>Organisation</source>
+        <translation>Organisation</translation>
+    </message>
+    <message id="UI_ACCOUNT_INITIALS">
+        <source>Initials</source>
+        <translation>Initials</translation>
+    </message>
+    <message id="UI_ACCOUNT_COUNTRY">
+        <source>Country</source>
+        <translation>Country</translation>
+    </message>
+    <message id="UI_ACCOUNT_NO_COUNTRY">
+        <source>No country chosen</source>
+        <translation>No country chosen</translation>
+    </message>
+    <message id="UI_ACCOUNT_COUNTRY_SEARCH">
+        <source>Search by name or code</source>
+        <translation>Search by name or code</translation>
+    </message>
+    <message id="UI_ACCOUNT_CLOSE">
+        <source>Close</source>
+        <translation>Close</translation>
+    </message>
+    <message id="UI_DESIGN_PASSED">
+        <source>All %1 members pass; the largest utilisation is %2, in %3</source>
+        <translation>All %1 members pass; the largest utilisation is %2, in %3</translation>
+    </message>
+    <message id="UI_DESIGN_FAILED">
+        <source>%1 members are stressed beyond their strength; the largest utilisation is %2, in %3</source>
+        <translation>%1 members are stressed beyond their strength; the largest utilisation is %2, in %3</translation>
+    </message>
+    <message id="UI_NOTIFICATIONS_DESIGN_PASSED">
+        <source>Design check passed</source>
+        <translation>Design check passed</translation>
+    </message>
+    <message id="UI_NOTIFICATIONS_DESIGN_FAILED">
+        <source>Members over their strength</source>
+        <translation>Members over their strength</translation>
     </message>
 </context>
 </TS>

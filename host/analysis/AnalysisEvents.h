@@ -20,4 +20,15 @@ struct AnalysisFinishedEvent
     Model::ObjectId object = 0;
 };
 
+// Posted when the members were checked against the latest results; message says how it went, in
+// the user's language.
+struct DesignCheckedEvent
+{
+    bool passes = false;
+    double maxUtilisation = 0.0;
+    QString message;
+    // The member with the largest utilisation, 0 when there are no members.
+    Model::ObjectId governingMember = 0;
+};
+
 } // namespace Orvo::Kernel::Analysis

@@ -45,7 +45,8 @@ QString Number(double value, int decimals)
 
 struct AnalysisService::Job
 {
-    Model::Structure structure;
+    // Shared with the design check once the results are shown.
+    std::shared_ptr<Model::Structure> structure;
     QString path;
     std::atomic<bool> cancel { false };
     int reported = -1; // the last progress sent, in thousandths
@@ -56,6 +57,7 @@ struct AnalysisService::Job
     QString writeError;
     std::int32_t degreesOfFreedom = 0;
     double seconds = 0.0;
+    std::shared_ptr<const AnalysisResults> results;
 };
 
 AnalysisService::AnalysisService(std::shared_ptr<Framework::StructuralModel> model,
@@ -112,6 +114,8 @@ void AnalysisService::Shutdown()
     for (const auto& table : m_tables)
         table->SetDatabase(nullptr);
     m_database.reset();
+    m_results.reset();
+    m_analysedStructure.reset();
 }
 
 QString AnalysisService::Text(const QString& id, const QStringList& arguments) const
@@ -125,7 +129,7 @@ bool AnalysisService::start()
     if (m_thread)
         return false;
     m_job = std::make_shared<Job>();
-    m_job->structure = m_model->Structure();
+    m_job->structure = std::make_shared<Model::Structure>(m_model->Structure());
     m_job->path = m_directory.filePath(QStringLiteral("results-%1.sqlite").arg(++m_runs));
     m_changedWhileRunning = false;
     const auto job = m_job;
@@ -142,12 +146,13 @@ bool AnalysisService::start()
             return !job->cancel.load();
         };
         RunGuarded("Frame analysis", [&]() {
-            const AnalysisOutcome outcome = FrameAnalysis::Run(job->structure, progress);
+            const AnalysisOutcome outcome = FrameAnalysis::Run(*job->structure, progress);
             job->cancelled = outcome.cancelled;
             job->why = outcome.why;
             if (!outcome.succeeded)
                 return;
             job->degreesOfFreedom = outcome.results->DegreesOfFreedom();
+            job->results = outcome.results;
             job->succeeded = Results::ResultsWriter::Write(
                 *outcome.results, job->path,
                 [&progress](double fraction) { return progress(AnalysisStage::WritingResults, fraction); },
@@ -209,7 +214,7 @@ void AnalysisService::OnThreadFinished()
         auto database = std::make_shared<Results::ResultsDatabase>(job->path);
         succeeded = database->IsOpen();
         if (succeeded)
-            ShowResults(std::move(database));
+            ShowResults(std::move(database), job);
     }
     if (succeeded)
         m_statusText = Text(QStringLiteral("UI_ANALYSIS_DONE"),
@@ -233,8 +238,11 @@ void AnalysisService::OnThreadFinished()
     emit finished(succeeded);
 }
 
-void AnalysisService::ShowResults(std::shared_ptr<Results::ResultsDatabase> database)
+void AnalysisService::ShowResults(std::shared_ptr<Results::ResultsDatabase> database,
+                                  const std::shared_ptr<Job>& job)
 {
+    m_results = job->results;
+    m_analysedStructure = job->structure;
     const QString previous = m_database ? m_database->Path() : QString();
     Tables::TableDataChangedEvent changed { {}, true };
     for (const auto& table : m_tables) {

@@ -87,6 +87,10 @@ public:
     QString modelDescription() const;
 
     std::shared_ptr<Results::ResultsDatabase> Database() const { return m_database; }
+    // The latest results and the structure they were computed for (a copy taken when the
+    // analysis started); null before the first analysis that succeeded.
+    std::shared_ptr<const AnalysisResults> Results() const { return m_results; }
+    std::shared_ptr<const Model::Structure> AnalysedStructure() const { return m_analysedStructure; }
     const std::vector<std::shared_ptr<Results::ResultsTableData>>& Tables() const { return m_tables; }
 
 signals:
@@ -102,7 +106,7 @@ private:
     struct Job;
     void Report(AnalysisStage stage, double fraction);
     void OnThreadFinished();
-    void ShowResults(std::shared_ptr<Results::ResultsDatabase> database);
+    void ShowResults(std::shared_ptr<Results::ResultsDatabase> database, const std::shared_ptr<Job>& job);
     void SetUpToDate(bool upToDate);
     void OnModelChanged();
     void Shutdown();
@@ -116,6 +120,8 @@ private:
     std::shared_ptr<const UI::BasicComponents::DisplayUnits> m_units;
     std::vector<std::shared_ptr<Results::ResultsTableData>> m_tables;
     std::shared_ptr<Results::ResultsDatabase> m_database;
+    std::shared_ptr<const AnalysisResults> m_results;
+    std::shared_ptr<const Model::Structure> m_analysedStructure;
     QTemporaryDir m_directory;
     int m_runs = 0;
     QThread* m_thread = nullptr;

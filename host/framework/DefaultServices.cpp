@@ -7,6 +7,7 @@
 #include "ServiceCatalog.h"
 #include "TranslationStringLoader.h"
 #include "analysis/AnalysisService.h"
+#include "analysis/DesignService.h"
 #include "basiccomponents/DisplayUnits.h"
 #include "basiccomponents/NumberFormatSettings.h"
 #include "commands/CommandHistory.h"
@@ -99,6 +100,8 @@ void DefaultServices::Install(ServiceCatalog& catalog)
     catalog.Register<Tables::TableDataCatalog>(tables);
     catalog.Register<Analysis::AnalysisService>(std::make_shared<Analysis::AnalysisService>(
         structuralModel, tables, eventBus, catalog.Get<IStringLoader>(), displayUnits));
+    catalog.Register<Analysis::DesignService>(std::make_shared<Analysis::DesignService>(
+        catalog.Get<Analysis::AnalysisService>(), eventBus, catalog.Get<IStringLoader>()));
     auto graphics = std::make_shared<Graphic::GraphicsService>(structuralModel, eventBus, settings);
     catalog.Register<Graphic::GraphicsService>(graphics);
     // The views show the analysis's results as soon as it has them.

@@ -74,6 +74,7 @@ void Notifications::SetEventbus(std::shared_ptr<EventBus> eventbus)
     m_eventbus = std::move(eventbus);
     if (!m_eventbus) {
         m_analysisConnection = EventConnection();
+        m_designConnection = EventConnection();
         m_rejectionConnection = EventConnection();
         m_fileSavedConnection = EventConnection();
         m_fileOpenedConnection = EventConnection();
@@ -99,6 +100,21 @@ void Notifications::SetEventbus(std::shared_ptr<EventBus> eventbus)
               m_model->Add(NotificationsModel::Error,
                            GetText(QStringLiteral("UI_NOTIFICATIONS_ANALYSIS_FAILED")), event.message,
                            std::move(actions), event.object);
+          });
+    m_designConnection
+        = m_eventbus->Subscribe<Kernel::Analysis::DesignCheckedEvent>([this](const auto& event) {
+              if (event.passes) {
+                  m_model->Add(NotificationsModel::Success,
+                               GetText(QStringLiteral("UI_NOTIFICATIONS_DESIGN_PASSED")), event.message, {});
+                  return;
+              }
+              std::vector<NotificationsModel::Action> actions;
+              if (event.governingMember != 0)
+                  actions.push_back(
+                      { c_selectObjectAction, GetText(QStringLiteral("UI_NOTIFICATIONS_SELECT_OBJECT")) });
+              m_model->Add(NotificationsModel::Warning,
+                           GetText(QStringLiteral("UI_NOTIFICATIONS_DESIGN_FAILED")), event.message,
+                           std::move(actions), event.governingMember);
           });
     m_rejectionConnection = m_eventbus->Subscribe<EditRejectedEvent>([this](const EditRejectedEvent& event) {
         std::vector<NotificationsModel::Action> actions;

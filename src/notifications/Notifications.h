@@ -16,10 +16,10 @@ class StructuralModel;
 namespace Orvo::UI::UIComponents {
 
 // The native half of the notification centre. It turns what the host posts on its event bus
-// into messages: an analysis that finished or failed, an edit the model refused (with the object
-// it is about, which the user can select from the message), a model file written, opened or
-// refused. The centre's list and the toasts
-// are two views of one model, narrowed by the severity buttons and by the toast state.
+// into messages: an analysis that finished or failed, the outcome of a design check, an edit the
+// model refused (with the object it is about, which the user can select from the message), a
+// model file written, opened or refused. The centre's list and the toasts are two views of one
+// model, narrowed by the severity buttons and by the toast state.
 class Notifications : public Orvo::UI::QtExtensions::UIComponent, public Kernel::Framework::INeedEventbus
 {
     Q_OBJECT
@@ -68,6 +68,7 @@ private:
     std::shared_ptr<Kernel::Framework::EventBus> m_eventbus;
     std::shared_ptr<Kernel::Framework::StructuralModel> m_structuralModel;
     Kernel::Framework::EventConnection m_analysisConnection;
+    Kernel::Framework::EventConnection m_designConnection;
     Kernel::Framework::EventConnection m_rejectionConnection;
     Kernel::Framework::EventConnection m_fileSavedConnection;
     Kernel::Framework::EventConnection m_fileOpenedConnection;

@@ -2,6 +2,7 @@
 
 #include "StatusLogging.h"
 #include "analysis/AnalysisService.h"
+#include "analysis/DesignService.h"
 #include "framework/EventBus.h"
 #include "framework/ServiceCatalog.h"
 #include "model/ModelRecords.h"
@@ -57,6 +58,7 @@ ProcessToolbar::ProcessToolbar(QQuickItem* parent)
         m_model = catalog->Get<Framework::StructuralModel>();
         m_tables = catalog->Get<Tables::TableDataCatalog>();
         m_analysis = catalog->Get<Analysis::AnalysisService>();
+        m_design = catalog->Get<Analysis::DesignService>();
         if (const auto eventbus = catalog->Get<Framework::EventBus>()) {
             m_connections.push_back(eventbus->Subscribe<Framework::StructureChangedEvent>(
                 [this](const Framework::StructureChangedEvent&) { UpdateStates(); }));
@@ -75,14 +77,22 @@ ProcessToolbar::ProcessToolbar(QQuickItem* parent)
             UpdateStates();
         });
     }
+    if (m_design) {
+        using Analysis::DesignService;
+        connect(m_design.get(), &DesignService::outcomeChanged, this, &ProcessToolbar::UpdateStates);
+        connect(m_design.get(), &DesignService::upToDateChanged, this, &ProcessToolbar::UpdateStates);
+        connect(m_design.get(), &DesignService::canRunChanged, this, &ProcessToolbar::UpdateStates);
+    }
     UpdateStates();
 }
 
 ProcessToolbar::~ProcessToolbar()
 {
-    // The service outlives the toolbar.
+    // The services outlive the toolbar.
     if (m_analysis)
         m_analysis->disconnect(this);
+    if (m_design)
+        m_design->disconnect(this);
 }
 
 void ProcessToolbar::setCurrentStep(int row)
@@ -131,7 +141,16 @@ void ProcessToolbar::UpdateStates()
                       !hasResults    ? State::NotStarted
                           : upToDate ? State::Done
                                      : State::NeedsUpdate);
-    m_steps->SetState(DesignStep, hasResults && !upToDate ? State::NeedsUpdate : State::NotStarted);
+    // A check that found members over their strength is an error of the design, to be fixed in
+    // the model; a check of results that changed since needs to run again.
+    State design = State::NotStarted;
+    if (m_design && m_design->hasOutcome()) {
+        if (!m_design->upToDate())
+            design = State::NeedsUpdate;
+        else
+            design = m_design->passes() ? State::Done : State::Error;
+    }
+    m_steps->SetState(DesignStep, design);
     UpdateCenterButton();
 }
 
@@ -153,8 +172,8 @@ void ProcessToolbar::UpdateCenterButton()
         enabled = m_analysis && m_analysis->hasResults();
         break;
     case DesignStep:
-        // No design module: nothing to run.
-        enabled = false;
+        // The check needs results of the model as it is.
+        enabled = m_design && m_design->canRun() && !running;
         break;
     default:
         break;
@@ -179,6 +198,10 @@ void ProcessToolbar::RunCurrentStep()
         break;
     case ResultsStep:
         emit resultsRequested();
+        break;
+    case DesignStep:
+        if (m_design)
+            CatchAtStatusBoundary("Design check", false, [this] { return m_design->run(); });
         break;
     default:
         break;

@@ -12,7 +12,8 @@
 
 namespace Orvo::Kernel::Analysis {
 class AnalysisService;
-}
+class DesignService;
+} // namespace Orvo::Kernel::Analysis
 namespace Orvo::Kernel::Framework {
 class StructuralModel;
 }
@@ -30,8 +31,9 @@ namespace Orvo::UI::UIComponents {
 //   analysis  done while its results are those of the model, needs an update after an edit,
 //             error when the last run failed, running while it runs;
 //   results   as the analysis, once it has results;
-//   design    needs results of the model as it is; no design module is installed, so it is
-//             never done and its action is not offered.
+//   design    the host's member check, offered once the results are those of the model: done
+//             when every member passes, error when one is over its strength, needs an update
+//             once the results it checked are out of date.
 class ProcessToolbar : public Orvo::UI::QtExtensions::UIComponent
 {
     Q_OBJECT
@@ -80,6 +82,7 @@ private:
     std::shared_ptr<Kernel::Framework::StructuralModel> m_model;
     std::shared_ptr<Kernel::Tables::TableDataCatalog> m_tables;
     std::shared_ptr<Kernel::Analysis::AnalysisService> m_analysis;
+    std::shared_ptr<Kernel::Analysis::DesignService> m_design;
     bool m_lastAnalysisFailed = false;
     std::vector<Kernel::Framework::EventConnection> m_connections;
 };

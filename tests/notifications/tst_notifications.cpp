@@ -125,6 +125,33 @@ private slots:
         QCOMPARE(DescribeNewest(centre), expected);
     }
 
+    void shouldTurnDesignChecksIntoMessages_data()
+    {
+        QTest::addColumn<bool>("passes");
+        QTest::addColumn<int>("member");
+        QTest::addColumn<QString>("expected");
+        QTest::newRow("passed") << true << MakeObjectId(ObjectKind::Member, 3)
+                                << "Success|Design check passed|how it went|";
+        QTest::newRow("a member over its strength")
+            << false << MakeObjectId(ObjectKind::Member, 3)
+            << "Warning|Members over their strength|how it went|selectObject";
+    }
+
+    void shouldTurnDesignChecksIntoMessages()
+    {
+        QFETCH(bool, passes);
+        QFETCH(int, member);
+        QFETCH(QString, expected);
+        Notifications centre;
+        QAbstractItemModelTester tester(centre.notificationsModel(),
+                                        QAbstractItemModelTester::FailureReportingMode::QtTest);
+
+        Bus().Post(Analysis::DesignCheckedEvent { passes, passes ? 0.5 : 1.5, "how it went", member });
+
+        QCOMPARE(centre.notificationsModel()->rowCount(), 1);
+        QCOMPARE(DescribeNewest(centre), expected);
+    }
+
     void shouldSelectTheObjectARefusedEditIsAbout()
     {
         // Given a centre and a user's edit the model refuses
@@ -181,6 +208,7 @@ private slots:
         }
         QCOMPARE(Bus().SubscriberCount<EditRejectedEvent>(), 0u);
         QCOMPARE(Bus().SubscriberCount<Analysis::AnalysisFinishedEvent>(), 0u);
+        QCOMPARE(Bus().SubscriberCount<Analysis::DesignCheckedEvent>(), 0u);
     }
 };
 

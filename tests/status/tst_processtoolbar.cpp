@@ -1,5 +1,6 @@
 #include "TestHost.h"
 #include "analysis/AnalysisService.h"
+#include "analysis/DesignService.h"
 #include "model/ModelGenerator.h"
 #include "model/ModelRecords.h"
 #include "properties/StructuralModel.h"
@@ -74,9 +75,21 @@ private slots:
             << QStringList {} << "Done Done NotStarted NotStarted NotStarted";
         QTest::newRow("after an analysis") << QStringList { "analyse" } << "Done Done Done Done NotStarted";
         QTest::newRow("an edit after the analysis")
-            << QStringList { "analyse", "edit" } << "Done Done NeedsUpdate NeedsUpdate NeedsUpdate";
+            << QStringList { "analyse", "edit" } << "Done Done NeedsUpdate NeedsUpdate NotStarted";
         QTest::newRow("analysed again after the edit")
             << QStringList { "analyse", "edit", "analyse" } << "Done Done Done Done NotStarted";
+        QTest::newRow("after a design check")
+            << QStringList { "analyse", "check" } << "Done Done Done Done Done";
+        QTest::newRow("an edit after the design check")
+            << QStringList { "analyse", "check", "edit" } << "Done Done NeedsUpdate NeedsUpdate NeedsUpdate";
+        QTest::newRow("analysed again, the check not yet run")
+            << QStringList { "analyse", "check", "edit", "analyse" } << "Done Done Done Done NeedsUpdate";
+        QTest::newRow("checked again")
+            << QStringList { "analyse", "check", "edit", "analyse", "check" } << "Done Done Done Done Done";
+        QTest::newRow("members over their strength")
+            << QStringList { "weaken", "analyse", "check" } << "Done Done Done Done Error";
+        QTest::newRow("a check before any analysis does nothing")
+            << QStringList { "check" } << "Done Done NotStarted NotStarted NotStarted";
         QTest::newRow("a section out of range")
             << QStringList { "break" } << "Error Done NotStarted NotStarted NotStarted";
         QTest::newRow("an empty model")
@@ -111,7 +124,7 @@ private slots:
         QTest::newRow("loads") << int(LoadsStep) << "Edit loads" << true;
         QTest::newRow("analysis") << int(AnalysisStep) << "Calculate" << true;
         QTest::newRow("results before an analysis") << int(ResultsStep) << "Show results" << false;
-        QTest::newRow("design without a design module") << int(DesignStep) << "Check design" << false;
+        QTest::newRow("design before an analysis") << int(DesignStep) << "Check design" << false;
     }
 
     void shouldOfferTheCurrentStepsActionInTheCentre()
@@ -147,6 +160,16 @@ private slots:
         QSignalSpy shown(m_toolbar.get(), &ProcessToolbar::resultsRequested);
         m_toolbar->centerButton()->trigger();
         QCOMPARE(shown.count(), 1);
+
+        // And the design checked.
+        m_toolbar->setCurrentStep(DesignStep);
+        QVERIFY(m_toolbar->centerButton()->enabled());
+        m_toolbar->centerButton()->trigger();
+        auto design = m_catalog->Get<Kernel::Analysis::DesignService>();
+        QVERIFY(design->hasOutcome());
+        QVERIFY(design->passes());
+        QVERIFY(design->maxUtilisation() > 0.0);
+        QVERIFY2(design->statusText().contains(QStringLiteral("member")), qPrintable(design->statusText()));
     }
 
     void shouldNotCalculateAModelWithErrors()
@@ -220,6 +243,20 @@ private:
                 Kernel::Model::ModelGenerator::PortalFrame(structure, { 2, 6.0, 4.5 });
                 // Taller than any section the model takes.
                 structure.Table<Kernel::Model::CrossSection>().At(0).height = 9000.0;
+            });
+            return true;
+        }
+        if (action == QLatin1String("check")) {
+            // The way the user runs it: the design step's centre button (or its shortcut).
+            m_toolbar->setCurrentStep(DesignStep);
+            m_toolbar->centerButton()->trigger();
+            return true;
+        }
+        if (action == QLatin1String("weaken")) {
+            Model()->Replace([](Kernel::Model::Structure& structure) {
+                Kernel::Model::ModelGenerator::PortalFrame(structure, { 2, 6.0, 4.5 });
+                // A material of no strength worth the name: every loaded member fails.
+                structure.Table<Kernel::Model::Material>().At(0).strength = 0.01;
             });
             return true;
         }
