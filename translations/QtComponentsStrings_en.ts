@@ -2875,5 +2875,17 @@
         <source>Members over their strength</source>
         <translation>Members over their strength</translation>
     </message>
+    <message id="UI_SETTING_ACCOUNT_NAME">
+        <source>User name</source>
+        <translation>User name</translation>
+    </message>
+    <message id="UI_SETTING_ACCOUNT_ORGANISATION">
+        <source>Organisation</source>
+        <translation>Organisation</translation>
+    </message>
+    <message id="UI_SETTING_ACCOUNT_COUNTRY">
+        <source>Country</source>
+        <translation>Country</translation>
+    </message>
 </context>
 </TS>

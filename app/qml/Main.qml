@@ -10,6 +10,7 @@ import UIComponents.MarkingMenu
 import UIComponents.Spotlight
 import UIComponents.MenuSystem
 import UIComponents.Notifications
+import UIComponents.StatusBar
 import Demo
 
 ApplicationWindow {
@@ -62,6 +63,11 @@ ApplicationWindow {
             const page = pageStack.pageItem(pageList.currentIndex) as TablesPage
             if (page)
                 page.showTable(tableId)
+        }
+        // A setting chosen in the search opens where it is edited; the demo edits the profile's.
+        onSettingRequested: key => {
+            if (key.startsWith("Account/"))
+                accountButton.openSettings(key)
         }
         parent: window.contentItem
         z: 100
@@ -146,6 +152,10 @@ ApplicationWindow {
             NotificationsButton {
                 objectName: "notificationsButton"
                 centre: notifications
+            }
+            AccountButton {
+                id: accountButton
+                objectName: "accountButton"
             }
         }
     }

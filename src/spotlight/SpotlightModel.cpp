@@ -54,6 +54,9 @@ const SettingInfo c_settings[] = {
     { &DataModel::Settings::c_zoomFarthestLimit, "UI_SETTING_ZOOM_FARTHEST_LIMIT" },
     { &DataModel::Settings::c_objectPickingRadius, "UI_SETTING_PICKING_RADIUS" },
     { &DataModel::Settings::c_rendererType, "UI_SETTING_RENDERER" },
+    { &DataModel::Settings::c_accountName, "UI_SETTING_ACCOUNT_NAME" },
+    { &DataModel::Settings::c_accountOrganisation, "UI_SETTING_ACCOUNT_ORGANISATION" },
+    { &DataModel::Settings::c_accountCountry, "UI_SETTING_ACCOUNT_COUNTRY" },
 };
 
 } // namespace

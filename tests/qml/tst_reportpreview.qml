@@ -58,6 +58,40 @@ Item {
             verify(image.width <= TestSupport.findByObjectName(preview, "pageFlickable").width)
         }
 
+        function test_ctrlWheelZooms() {
+            const preview = createPreview()
+            const area = TestSupport.findByObjectName(preview, "pageFlickable")
+            const zoom = preview.zoom
+            mouseWheel(area, 100, 100, 0, 120, Qt.NoButton, Qt.ControlModifier)
+            verify(preview.zoom > zoom)
+            mouseWheel(area, 100, 100, 0, -120, Qt.NoButton, Qt.ControlModifier)
+            mouseWheel(area, 100, 100, 0, -120, Qt.NoButton, Qt.ControlModifier)
+            verify(preview.zoom < zoom)
+            // The wheel alone scrolls the page
+            const before = preview.zoom
+            mouseWheel(area, 100, 100, 0, -120)
+            compare(preview.zoom, before)
+        }
+
+        function test_keysTurnThePages_data() {
+            return [
+                { tag: "page down", keys: [Qt.Key_PageDown], expected: 1 },
+                { tag: "page down, page up", keys: [Qt.Key_PageDown, Qt.Key_PageUp], expected: 0 },
+                { tag: "end", keys: [Qt.Key_End], expected: -1 },
+                { tag: "end, home", keys: [Qt.Key_End, Qt.Key_Home], expected: 0 }
+            ]
+        }
+
+        function test_keysTurnThePages(data) {
+            const preview = createPreview()
+            const area = TestSupport.findByObjectName(preview, "pageFlickable")
+            mouseClick(area, 50, 50)
+            verify(area.activeFocus)
+            for (const key of data.keys)
+                keyClick(key)
+            compare(preview.currentPage, data.expected < 0 ? preview.pageCount - 1 : data.expected)
+        }
+
         function test_headingsNameTheirPages() {
             // Without results the results section is the report's last page
             const preview = createPreview()

@@ -141,6 +141,9 @@ private slots:
         QTest::newRow("setting") << "zoom sensitivty"
                                  << "Zoom sensitivity"
                                  << "Settings";
+        QTest::newRow("a setting of the profile") << "country"
+                                                  << "Country"
+                                                  << "Settings";
         QTest::newRow("calculation") << "=2*3"
                                      << "6"
                                      << "Answers";

@@ -4,6 +4,8 @@
 #include "status/CountryCodeDataModel.h"
 
 #include <QAbstractItemModelTester>
+#include <QQmlComponent>
+#include <QQmlEngine>
 #include <QSignalSpy>
 #include <QTest>
 
@@ -128,6 +130,47 @@ private slots:
         QCOMPARE(account.initials(), QStringLiteral("AL"));
         QCOMPARE(country.countryCode(), QStringLiteral("GB"));
         QCOMPARE(country.countryName(), QStringLiteral("United Kingdom"));
+    }
+
+    void shouldKeepTheProfileAcrossEnginesAndSessions()
+    {
+        // Given a profile a QML document edited, in an engine that is gone since
+        {
+            QQmlEngine engine;
+            QQmlComponent component(&engine);
+            component.setData(
+                "import QtQml\n"
+                "import Qml.QtComponents\n"
+                "QtObject {\n"
+                "    property AccountDataModel account: AccountDataModel { name: \"Ada Lovelace\" }\n"
+                "    property CountryCodeDataModel country: CountryCodeDataModel { countryCode: \"de\" }\n"
+                "}",
+                QUrl());
+            std::unique_ptr<QObject> document(component.create());
+            QVERIFY2(document, qPrintable(component.errorString()));
+        }
+
+        // When the application starts again with a new engine
+        m_catalog.reset();
+        Kernel::Framework::ServiceCatalog::SetGlobal(nullptr);
+        m_catalog = m_host->StartServices();
+        QQmlEngine engine;
+        QQmlComponent component(&engine);
+        component.setData("import QtQml\n"
+                          "import Qml.QtComponents\n"
+                          "QtObject {\n"
+                          "    property AccountDataModel account: AccountDataModel {}\n"
+                          "    property CountryCodeDataModel country: CountryCodeDataModel {}\n"
+                          "    readonly property string initials: account.initials\n"
+                          "    readonly property string countryName: country.countryName\n"
+                          "}",
+                          QUrl());
+        std::unique_ptr<QObject> document(component.create());
+        QVERIFY2(document, qPrintable(component.errorString()));
+
+        // Then the document shows what was chosen
+        QCOMPARE(document->property("initials").toString(), QStringLiteral("AL"));
+        QCOMPARE(document->property("countryName").toString(), QStringLiteral("Germany"));
     }
 
     void shouldShowAChangeInEveryView()
@@ -274,5 +317,5 @@ private:
     std::shared_ptr<Kernel::Framework::ServiceCatalog> m_catalog;
 };
 
-QTEST_GUILESS_MAIN(tst_Account)
+QTEST_MAIN(tst_Account)
 #include "tst_account.moc"

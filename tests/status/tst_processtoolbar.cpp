@@ -1,6 +1,7 @@
 #include "TestHost.h"
 #include "analysis/AnalysisService.h"
 #include "analysis/DesignService.h"
+#include "commands/ICommandRepository.h"
 #include "model/ModelGenerator.h"
 #include "model/ModelRecords.h"
 #include "properties/StructuralModel.h"
@@ -221,6 +222,32 @@ private slots:
         QTest::ignoreMessage(QtWarningMsg, QRegularExpression("names no step"));
         again.loadConfiguration(QStringLiteral("{\"currentStep\":\"painting\"}"));
         QCOMPARE(again.currentStep(), int(ResultsStep));
+    }
+
+    void shouldShareNoShortcutWithAShippedCommand()
+    {
+        // Given the application's shipped commands
+        QFile shipped(QCoreApplication::applicationDirPath() + QStringLiteral("/Configuration/Commands.xml"));
+        QVERIFY(shipped.open(QIODevice::ReadOnly));
+        m_host->WriteFile(QStringLiteral("Configuration/Commands.xml"), shipped.readAll());
+        m_toolbar.reset();
+        m_catalog.reset();
+        ServiceCatalog::SetGlobal(nullptr);
+        m_catalog = m_host->StartServices();
+        const auto repository = m_catalog->Get<Kernel::Framework::ICommandRepository>();
+        QVERIFY(!repository->GetShortcuts().empty());
+
+        // Then none takes a key of the toolbar: both are application-wide, and Qt runs neither
+        // of two shortcuts on one key
+        QStringList shortcuts { CenterButtonData::c_shortcut };
+        for (const auto& step : WorkflowStepsModel::Steps())
+            shortcuts << step.shortcut;
+        for (const QString& shortcut : shortcuts) {
+            const auto owners = repository->FindCommandsWithShortcut(shortcut.toStdWString());
+            QVERIFY2(owners.empty(),
+                     qPrintable(shortcut + QStringLiteral(" is taken by ")
+                                + QString::fromStdWString(owners.empty() ? std::wstring() : owners.front())));
+        }
     }
 
 private:

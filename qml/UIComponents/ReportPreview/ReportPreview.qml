@@ -213,6 +213,37 @@ ReportPreview_Cpp {
                     ScrollBar.vertical: ScrollBar {}
                     ScrollBar.horizontal: ScrollBar {}
 
+                    // A click on the page gives it the keys: Page Up and Page Down turn the pages,
+                    // Home and End go to the first and the last.
+                    activeFocusOnTab: true
+                    Keys.onPressed: event => {
+                        if (event.key === Qt.Key_PageDown)
+                            preview.nextPage()
+                        else if (event.key === Qt.Key_PageUp)
+                            preview.previousPage()
+                        else if (event.key === Qt.Key_Home)
+                            preview.currentPage = 0
+                        else if (event.key === Qt.Key_End)
+                            preview.currentPage = preview.pageCount - 1
+                        else
+                            return
+                        event.accepted = true
+                    }
+                    TapHandler {
+                        onTapped: flickable.forceActiveFocus()
+                    }
+
+                    // Ctrl and the wheel zoom, as in a document viewer; the wheel alone scrolls.
+                    WheelHandler {
+                        acceptedModifiers: Qt.ControlModifier
+                        onWheel: event => {
+                            if (event.angleDelta.y > 0)
+                                preview.zoomIn()
+                            else if (event.angleDelta.y < 0)
+                                preview.zoomOut()
+                        }
+                    }
+
                     Image {
                         objectName: "pageImage"
                         x: Math.max(d.pageMargin, (flickable.contentWidth - width) / 2)
