@@ -10,6 +10,7 @@ import UIComponents.MarkingMenu
 import UIComponents.Spotlight
 import UIComponents.MenuSystem
 import UIComponents.Notifications
+import UIComponents.InputPanel
 import UIComponents.StatusBar
 import Demo
 
@@ -76,6 +77,19 @@ ApplicationWindow {
         y: 60
     }
 
+    // The running command's inputs (New member, Move), docked at the left of the page beside
+    // the page list while the command runs, on whichever page it was started; the user may drag
+    // it elsewhere, and it opens there next time.
+    InputPanel {
+        id: inputPanel
+        objectName: "inputPanel"
+        parent: window.contentItem
+        z: 80
+        x: pageList.width + 12
+        y: 84
+        width: 300
+    }
+
     // The host's messages over every page: the centre opens from the bell in the header, toasts
     // show new ones in the bottom right corner.
     Notifications {
@@ -88,9 +102,23 @@ ApplicationWindow {
         onObjectSelected: pageList.currentIndex = window.pageIndex("model")
     }
 
-    // The Report command of the File menu opens the report page.
+    // The file a file command needs when it ran without one (Open, Save as, the first Save).
+    FilePrompt {
+        id: filePrompt
+        onFileChosen: (path, saving) => {
+            if (saving)
+                DemoShell.commandActivity.saveFileAs(path)
+            else
+                DemoShell.commandActivity.openFile(path)
+        }
+    }
+    // File commands that need a file ask for it; the Report command of the File menu opens the
+    // report page.
     Connections {
         target: DemoShell.commandActivity
+        function onFileNameNeeded(save: bool, suggestedPath: string) {
+            filePrompt.ask(save, suggestedPath)
+        }
         function onReportRequested() {
             pageList.currentIndex = window.pageIndex("report")
         }
