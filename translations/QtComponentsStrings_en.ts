@@ -847,6 +847,102 @@
         <source>Save</source>
         <translation>Save</translation>
     </message>
+    <message id="UI_COMMAND_SAVE_AS">
+        <source>Save as…</source>
+        <translation>Save as…</translation>
+    </message>
+    <message id="UI_MODEL_FILE_DEFAULT_NAME">
+        <source>Model</source>
+        <translation>Model</translation>
+    </message>
+    <message id="UI_MODEL_FILE_OPEN_STEP">
+        <source>Open %1</source>
+        <translation>Open %1</translation>
+    </message>
+    <message id="UI_MODEL_FILE_BAD_FIELD">
+        <source>Entry %1 of “%2”: “%3” is missing or not valid</source>
+        <translation>Entry %1 of “%2”: “%3” is missing or not valid</translation>
+    </message>
+    <message id="UI_MODEL_FILE_BAD_LIST">
+        <source>“%1” is not a list</source>
+        <translation>“%1” is not a list</translation>
+    </message>
+    <message id="UI_MODEL_FILE_DUPLICATE">
+        <source>%1 appears twice in the file</source>
+        <translation>%1 appears twice in the file</translation>
+    </message>
+    <message id="UI_MODEL_FILE_NOT_JSON">
+        <source>The file cannot be read: %1 at character %2</source>
+        <translation>The file cannot be read: %1 at character %2</translation>
+    </message>
+    <message id="UI_MODEL_FILE_NOT_MODEL">
+        <source>The file is not a structural model</source>
+        <translation>The file is not a structural model</translation>
+    </message>
+    <message id="UI_MODEL_FILE_BAD_VERSION">
+        <source>The file does not say which version of the model format it is written in</source>
+        <translation>The file does not say which version of the model format it is written in</translation>
+    </message>
+    <message id="UI_MODEL_FILE_NEWER">
+        <source>The file is written in version %1 of the model format, by a newer application; this one reads up to version %2</source>
+        <translation>The file is written in version %1 of the model format, by a newer application; this one reads up to version %2</translation>
+    </message>
+    <message id="UI_MODEL_FILE_OBJECT_PROBLEM">
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message id="UI_MODEL_FILE_CANNOT_READ">
+        <source>Cannot read %1: %2</source>
+        <translation>Cannot read %1: %2</translation>
+    </message>
+    <message id="UI_MODEL_FILE_CANNOT_WRITE">
+        <source>Cannot write %1: %2</source>
+        <translation>Cannot write %1: %2</translation>
+    </message>
+    <message id="UI_NOTIFICATIONS_FILE_SAVED">
+        <source>Saved %1</source>
+        <translation>Saved %1</translation>
+    </message>
+    <message id="UI_NOTIFICATIONS_FILE_OPENED">
+        <source>Opened %1</source>
+        <translation>Opened %1</translation>
+    </message>
+    <message id="UI_NOTIFICATIONS_FILE_OPENED_UNDO">
+        <source>Undo brings back the model you had before.</source>
+        <translation>Undo brings back the model you had before.</translation>
+    </message>
+    <message id="UI_NOTIFICATIONS_FILE_OPEN_FAILED">
+        <source>Could not open %1</source>
+        <translation>Could not open %1</translation>
+    </message>
+    <message id="UI_NOTIFICATIONS_FILE_SAVE_FAILED">
+        <source>Could not save %1</source>
+        <translation>Could not save %1</translation>
+    </message>
+    <message id="UI_APP_FILE_OPEN_TITLE">
+        <source>Open a model</source>
+        <translation>Open a model</translation>
+    </message>
+    <message id="UI_APP_FILE_SAVE_TITLE">
+        <source>Save the model as</source>
+        <translation>Save the model as</translation>
+    </message>
+    <message id="UI_APP_FILE_PATH">
+        <source>File</source>
+        <translation>File</translation>
+    </message>
+    <message id="UI_APP_FILE_OPEN">
+        <source>Open</source>
+        <translation>Open</translation>
+    </message>
+    <message id="UI_APP_FILE_SAVE">
+        <source>Save</source>
+        <translation>Save</translation>
+    </message>
+    <message id="UI_APP_FILE_CANCEL">
+        <source>Cancel</source>
+        <translation>Cancel</translation>
+    </message>
     <message id="UI_COMMAND_REPORT">
         <source>Report</source>
         <translation>Report</translation>

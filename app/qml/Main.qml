@@ -88,9 +88,23 @@ ApplicationWindow {
         onObjectSelected: pageList.currentIndex = window.pageIndex("model")
     }
 
-    // The Report command of the File menu opens the report page.
+    // The file a file command needs when it ran without one (Open, Save as, the first Save).
+    FilePrompt {
+        id: filePrompt
+        onFileChosen: (path, saving) => {
+            if (saving)
+                DemoShell.commandActivity.saveFileAs(path)
+            else
+                DemoShell.commandActivity.openFile(path)
+        }
+    }
+    // File commands that need a file ask for it; the Report command of the File menu opens the
+    // report page.
     Connections {
         target: DemoShell.commandActivity
+        function onFileNameNeeded(save: bool, suggestedPath: string) {
+            filePrompt.ask(save, suggestedPath)
+        }
         function onReportRequested() {
             pageList.currentIndex = window.pageIndex("report")
         }
