@@ -15,7 +15,7 @@ TestCase {
 
     Component {
         id: toolbarComponent
-        ProcessToolbar { width: testCase.width }
+        ProcessToolbar { width: 900 }
     }
 
     SignalSpy {
