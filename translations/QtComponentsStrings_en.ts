@@ -1055,6 +1055,58 @@
         <source>Objects</source>
         <translation>Objects</translation>
     </message>
+    <message id="UI_INPUT_GROUP_POINT">
+        <source>Point</source>
+        <translation>Point</translation>
+    </message>
+    <message id="UI_INPUT_GROUP_MEMBER">
+        <source>Member</source>
+        <translation>Member</translation>
+    </message>
+    <message id="UI_INPUT_DIRECTION">
+        <source>Direction</source>
+        <translation>Direction</translation>
+    </message>
+    <message id="UI_INPUT_DIRECTION_X">
+        <source>Along X</source>
+        <translation>Along X</translation>
+    </message>
+    <message id="UI_INPUT_DIRECTION_Y">
+        <source>Along Y</source>
+        <translation>Along Y</translation>
+    </message>
+    <message id="UI_INPUT_DIRECTION_Z">
+        <source>Along Z (vertical)</source>
+        <translation>Along Z (vertical)</translation>
+    </message>
+    <message id="UI_INPUT_MODE">
+        <source>Mode</source>
+        <translation>Mode</translation>
+    </message>
+    <message id="UI_INPUT_MODE_MOVE">
+        <source>Move</source>
+        <translation>Move</translation>
+    </message>
+    <message id="UI_INPUT_MODE_COPY">
+        <source>Copy</source>
+        <translation>Copy</translation>
+    </message>
+    <message id="UI_INPUT_NO_OBJECTS">
+        <source>Nothing selected</source>
+        <translation>Nothing selected</translation>
+    </message>
+    <message id="UI_INPUT_SOME_REFUSED">
+        <source>some positions were refused</source>
+        <translation>some positions were refused</translation>
+    </message>
+    <message id="UI_INPUT_APPLY">
+        <source>Apply</source>
+        <translation>Apply</translation>
+    </message>
+    <message id="UI_INPUT_CANCEL">
+        <source>Cancel</source>
+        <translation>Cancel</translation>
+    </message>
     <message id="UI_MENU_OBJECT">
         <source>Object</source>
         <translation>Object</translation>

@@ -10,6 +10,7 @@ import UIComponents.MarkingMenu
 import UIComponents.Spotlight
 import UIComponents.MenuSystem
 import UIComponents.Notifications
+import UIComponents.InputPanel
 import UIComponents.StatusBar
 import Demo
 
@@ -74,6 +75,19 @@ ApplicationWindow {
         width: Math.min(620, window.width - 40)
         anchors.horizontalCenter: parent.horizontalCenter
         y: 60
+    }
+
+    // The running command's inputs (New member, Move), docked at the left of the page beside
+    // the page list while the command runs, on whichever page it was started; the user may drag
+    // it elsewhere, and it opens there next time.
+    InputPanel {
+        id: inputPanel
+        objectName: "inputPanel"
+        parent: window.contentItem
+        z: 80
+        x: pageList.width + 12
+        y: 84
+        width: 300
     }
 
     // The host's messages over every page: the centre opens from the bell in the header, toasts
