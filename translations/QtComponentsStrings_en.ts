@@ -919,6 +919,18 @@
         <source>Could not save %1</source>
         <translation>Could not save %1</translation>
     </message>
+    <message id="UI_FILEDROP_OPEN">
+        <source>Drop to open %1</source>
+        <translation>Drop to open %1</translation>
+    </message>
+    <message id="UI_FILEDROP_UNSUPPORTED">
+        <source>Only model files (%1) can be opened here</source>
+        <translation>Only model files (%1) can be opened here</translation>
+    </message>
+    <message id="UI_FILEDROP_CANNOT_OPEN_NOW">
+        <source>Files cannot be opened right now</source>
+        <translation>Files cannot be opened right now</translation>
+    </message>
     <message id="UI_APP_FILE_OPEN_TITLE">
         <source>Open a model</source>
         <translation>Open a model</translation>

@@ -102,6 +102,16 @@ ApplicationWindow {
         onObjectSelected: pageList.currentIndex = window.pageIndex("model")
     }
 
+    // Files dropped on the window: a model file opens, anything else is refused with a message.
+    // Over the whole window, menus and header included; it never takes the pointer.
+    Loader {
+        objectName: "fileDropLoader"
+        parent: window.contentItem.parent
+        anchors.fill: parent
+        z: 200
+        source: "qrc:/UIComponents/FileDrop/FileDrop.qml"
+    }
+
     // The file a file command needs when it ran without one (Open, Save as, the first Save).
     FilePrompt {
         id: filePrompt

@@ -7,6 +7,7 @@
 #include "common/FilterItemsProxyModel.h"
 #include "common/SelectionModel.h"
 #include "common/SimpleComboBoxProxyModel.h"
+#include "filedrop/FileDrop.h"
 #include "inputpanel/FilterBarItemModel.h"
 #include "inputpanel/FilterBarItemProxyModel.h"
 #include "inputpanel/InputPanel.h"
@@ -123,6 +124,7 @@ void RegisterQtComponentsTypes(const char* uri)
     qmlRegisterType<SelectionModel>(uri, major, minor, "SelectionModel");
     qmlRegisterType<SimpleComboBoxProxyModel>(uri, major, minor, "SimpleComboBoxProxyModel");
     qmlRegisterType<CommandMenuHelper>(uri, major, minor, "CommandMenuHelper");
+    qmlRegisterType<FileDrop>(uri, major, minor, "FileDrop_Cpp");
     qmlRegisterType<IntegerValidator>(uri, major, minor, "IntegerValidator");
     qmlRegisterType<RealValidator>(uri, major, minor, "RealValidator");
     qmlRegisterType<InlineCalculator>(uri, major, minor, "InlineCalculator");

@@ -158,6 +158,25 @@ TestCase {
         }
     }
 
+    function test_escapeDropsAnEditAndThenCancels() {
+        const panel = startedPanel(ModelingCommands.newMemberUuid)
+        const spy = createTemporaryObject(spyComponent, testCase, { target: panel, signalName: "cancelled" })
+        const input = findNamed(panel, "inputNumber_length")
+        const field = findNamed(input, "numericInputField")
+        const shown = field.text
+        mouseClick(field)
+        tryVerify(() => field.activeFocus)
+        field.selectAll()
+        keyClick("7")
+        keyClick(Qt.Key_Escape)
+        compare(field.text, shown)
+        compare(panel.commandRunning, true)
+        compare(spy.count, 0)
+        keyClick(Qt.Key_Escape)
+        compare(spy.count, 1)
+        compare(panel.commandRunning, false)
+    }
+
     function test_applyMovesTheSelection() {
         TestStructure.selectNewNodes(2)
         const nodes = TestStructure.count("node")

@@ -21,7 +21,7 @@ TestCase {
             "InputPanel_Cpp", "InputPanelContainerModel", "InputPanelContainerProxyModel", "FilterBarItemProxyModel",
             "FilterBarItemModel", "TagModel", "InputPanelUserConfiguration", "ReportPreview_Cpp",
             "ComboBoxProxyModel", "FilterItemsProxyModel", "SelectionModel", "SimpleComboBoxProxyModel",
-            "CommandMenuHelper",
+            "CommandMenuHelper", "FileDrop_Cpp",
             "IntegerValidator", "RealValidator", "InlineCalculator", "IllustrationData",
             "TableResult_Cpp", "TableInput_Cpp", "TableWorkstationsModel", "TableTabsModel",
             "TableColumnsModel", "TableContentModel", "MultiEditAction", "MultiEditActionSolver",

@@ -169,7 +169,14 @@ FocusScope {
             if (!activeFocus && !root.accept() && !d.hasText)
                 root.revert()
         }
-        Keys.onEscapePressed: root.revert()
+        // Escape first drops an edit; with nothing to drop it is left to what holds the field
+        // (a command's panel cancels the command).
+        Keys.onEscapePressed: event => {
+            if (d.edited)
+                root.revert()
+            else
+                event.accepted = false
+        }
 
         BasicLabel {
             id: insideMessage

@@ -16,6 +16,11 @@ InputPanel_Cpp {
     signal cancelled()
 
     visible: panel.commandRunning
+    // Escape from anywhere in the panel cancels the command, once a field has dropped its edit.
+    Keys.onEscapePressed: {
+        if (panel.cancel())
+            panel.cancelled()
+    }
     implicitWidth: 300
     implicitHeight: content.implicitHeight + 2 * BasicConstants.sizes.margin
 
