@@ -2,7 +2,9 @@
 
 #include "commands/CommandOrigin.h"
 #include "commands/ICommandRepository.h"
+#include "commands/IUICommandProcessor.h"
 #include "commands/RecentFiles.h"
+#include "document/ModelDocument.h"
 #include "events/CommandExecuted.h"
 #include "framework/DefaultServices.h"
 #include "framework/EventBus.h"
@@ -10,21 +12,19 @@
 #include "framework/ServiceCatalog.h"
 #include "qtextensions/File.h"
 
-#include <QDir>
-#include <QStandardPaths>
-
 using namespace Orvo::Kernel::Framework;
 
 namespace {
 
-const wchar_t* const c_saveCommand = L"5d85bcf0-15b0-44be-9bad-202d1b15dcbc";
 const wchar_t* const c_reportCommand = L"79b588a8-1ec0-49c6-af6b-a91ec61dffe5";
 
-// Where the demo's model would be saved: a save names its file, so the recent files show it.
-QString DemoDocument()
+bool RunWithFile(const wchar_t* command, const QString& path)
 {
-    return QDir(QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation))
-        .filePath(QStringLiteral("Building.orvo"));
+    auto processor = ServiceCatalog::Global()->Get<IUICommandProcessor>();
+    const QString file = path.trimmed();
+    return processor && !file.isEmpty()
+        && processor->ExecuteCommand(command, RecentFiles::c_fileParameter + file.toStdWString(),
+                                     L"FilePrompt");
 }
 
 } // namespace
@@ -51,15 +51,25 @@ CommandActivity::CommandActivity(QObject* parent)
                 : QString();
             m_lastParameters = QString::fromStdWString(event.GetParameterString());
             m_lastOrigin = QString::fromStdWString(CommandOrigin::DisplayName(event.GetOrigin()));
-            const auto recentFiles = catalog->Get<RecentFiles>();
-            if (recentFiles && event.GetCommandUuid() == c_saveCommand
-                && RecentFiles::FileOfParameters(event.GetParameterString()).isEmpty())
-                recentFiles->Add(DemoDocument());
             ++m_runCount;
             emit commandRun();
             if (event.GetCommandUuid() == c_reportCommand)
                 emit reportRequested();
         });
+    m_fileNameConnection
+        = eventbus->Subscribe<ModelFileNameNeededEvent>([this](const ModelFileNameNeededEvent& event) {
+              emit fileNameNeeded(event.operation == ModelFileOperation::Save, event.suggestedPath);
+          });
+}
+
+bool CommandActivity::openFile(const QString& path)
+{
+    return RunWithFile(ModelDocument::c_openCommand, path);
+}
+
+bool CommandActivity::saveFileAs(const QString& path)
+{
+    return RunWithFile(ModelDocument::c_saveAsCommand, path);
 }
 
 bool CommandActivity::setGroupEnabled(const QString& group, bool enabled)

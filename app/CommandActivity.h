@@ -7,9 +7,9 @@
 #include <QtQml/qqmlregistration.h>
 
 // The demo's stand-in for the application's command handlers: it listens for the commands the
-// UI command processor runs and shows the last one, and lets the page lock command groups. Save
-// stands for saving the demo's model to its document, which the recent files then list; Report
-// asks the shell to open the report preview.
+// UI command processor runs and shows the last one, and lets the page lock command groups. When
+// a file command needs a file name (Open, Save as), it asks the window, which prompts the user
+// and runs the command again with the name; Report asks the shell to open the report preview.
 class CommandActivity : public QObject
 {
     Q_OBJECT
@@ -33,9 +33,14 @@ public:
     int runCount() const { return m_runCount; }
 
     Q_INVOKABLE bool setGroupEnabled(const QString& group, bool enabled);
+    // Run the file commands on the named file, as a menu's recent file does.
+    Q_INVOKABLE bool openFile(const QString& path);
+    Q_INVOKABLE bool saveFileAs(const QString& path);
 
 signals:
     void commandRun();
+    // A file command needs a file: save tells a save from an open.
+    void fileNameNeeded(bool save, const QString& suggestedPath);
     // The Report command ran.
     void reportRequested();
 
@@ -47,4 +52,5 @@ private:
     QString m_lastOrigin;
     int m_runCount = 0;
     Orvo::Kernel::Framework::EventConnection m_executedConnection;
+    Orvo::Kernel::Framework::EventConnection m_fileNameConnection;
 };

@@ -24,6 +24,14 @@ DemoOptions DemoOptions::Parse(const QStringList& arguments)
                 options.valid = false;
                 options.error = QStringLiteral("--renderer takes software or opengl");
             }
+        } else if (argument == QLatin1String("--run-command")) {
+            takeValue(options.runCommand);
+            if (!QStringList { QStringLiteral("new-node"), QStringLiteral("new-member"),
+                               QStringLiteral("move") }
+                     .contains(options.runCommand)) {
+                options.valid = false;
+                options.error = QStringLiteral("--run-command takes new-node, new-member or move");
+            }
         } else if (argument == QLatin1String("--hold-marking-menu")) {
             options.holdMarkingMenu = true;
         } else if (argument == QLatin1String("--model-size")) {

@@ -14,6 +14,9 @@ struct DemoOptions
     bool holdMarkingMenu = false; // play a secondary-button hold over the marking menu page's view
     QString renderer; // "software" or "opengl" for the model views; empty: the user's setting
     QSize windowSize; // invalid: the window's own size
+    // A modelling command to start once the window is up ("new-node", "new-member", "move"),
+    // so that a screenshot shows its input panel; empty: none.
+    QString runCommand;
     bool valid = true;
     QString error;
 

@@ -1,20 +1,22 @@
 #include "CommandActivity.h"
-#include "ModelingCommands.h"
 #include "DemoOptions.h"
 #include "DemoShell.h"
 #include "MarkingMenuGesture.h"
+#include "ModelingCommands.h"
 #include "SampleObjectsModel.h"
 #include "ScreenshotTaker.h"
 #include "StructuralMembersFeeder.h"
 #include "ViewControls.h"
 
 #include "analysis/AnalysisService.h"
+#include "commands/IUICommandProcessor.h"
 #include "datamodel/Settings.h"
 #include "framework/HostApplication.h"
 #include "framework/ServiceCatalog.h"
 #include "graphic/GraphicTypes.h"
 #include "kernel/PathText.h"
 #include "model/ModelGenerator.h"
+#include "model/ObjectIds.h"
 #include "properties/StructuralModel.h"
 #include "qtextensions/ShellQmlContext.h"
 
@@ -51,6 +53,22 @@ QString FromExecutable(const char* relativePath)
         QDir(QGuiApplication::applicationDirPath()).absoluteFilePath(QString::fromUtf8(relativePath)));
 }
 
+// Starts a modelling command as the menu would. Move moves the selection: with nothing selected
+// it takes the first two members, so that its panel has objects to show.
+void RunCommand(Orvo::Kernel::Framework::ServiceCatalog& services, const QString& name)
+{
+    using namespace Orvo::Kernel;
+    const wchar_t* uuid = name == QLatin1String("move") ? ModelingCommands::c_move
+        : name == QLatin1String("new-node")             ? ModelingCommands::c_newNode
+                                                        : ModelingCommands::c_newMember;
+    auto model = services.Get<Framework::StructuralModel>();
+    if (name == QLatin1String("move") && model && model->Selection().empty())
+        model->Select({ Model::MakeObjectId(Model::ObjectKind::Member, 1),
+                        Model::MakeObjectId(Model::ObjectKind::Member, 2) });
+    if (auto processor = services.Get<Framework::IUICommandProcessor>())
+        processor->ExecuteCommand(uuid, std::wstring(), L"DemoOptions");
+}
+
 } // namespace
 
 int main(int argc, char** argv)
@@ -72,7 +90,8 @@ int main(int argc, char** argv)
         std::fprintf(
             stderr,
             "%s\nUsage: QtComponentsDemo [--page NAME] [--model-size MEMBERS] [--renderer software|opengl] "
-            "[--hold-marking-menu] [--window-size WIDTHxHEIGHT] [--screenshot FILE [--delay MS]]\n",
+            "[--hold-marking-menu] [--run-command new-node|new-member|move] [--window-size WIDTHxHEIGHT] "
+            "[--screenshot FILE [--delay MS]]\n",
             qPrintable(options.error));
         return 2;
     }
@@ -127,6 +146,8 @@ int main(int argc, char** argv)
 
     if (options.windowSize.isValid())
         window->resize(options.windowSize);
+    if (!options.runCommand.isEmpty())
+        RunCommand(*services, options.runCommand);
     if (options.holdMarkingMenu)
         (new MarkingMenuGesture(window, &application))->Start();
     if (!options.screenshotFile.isEmpty()) {

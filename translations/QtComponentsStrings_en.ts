@@ -847,6 +847,198 @@
         <source>Save</source>
         <translation>Save</translation>
     </message>
+    <message id="UI_COMMAND_SAVE_AS">
+        <source>Save as…</source>
+        <translation>Save as…</translation>
+    </message>
+    <message id="UI_MODEL_FILE_DEFAULT_NAME">
+        <source>Model</source>
+        <translation>Model</translation>
+    </message>
+    <message id="UI_MODEL_FILE_OPEN_STEP">
+        <source>Open %1</source>
+        <translation>Open %1</translation>
+    </message>
+    <message id="UI_MODEL_FILE_BAD_FIELD">
+        <source>Entry %1 of “%2”: “%3” is missing or not valid</source>
+        <translation>Entry %1 of “%2”: “%3” is missing or not valid</translation>
+    </message>
+    <message id="UI_MODEL_FILE_BAD_LIST">
+        <source>“%1” is not a list</source>
+        <translation>“%1” is not a list</translation>
+    </message>
+    <message id="UI_MODEL_FILE_DUPLICATE">
+        <source>%1 appears twice in the file</source>
+        <translation>%1 appears twice in the file</translation>
+    </message>
+    <message id="UI_MODEL_FILE_NOT_JSON">
+        <source>The file cannot be read: %1 at character %2</source>
+        <translation>The file cannot be read: %1 at character %2</translation>
+    </message>
+    <message id="UI_MODEL_FILE_NOT_MODEL">
+        <source>The file is not a structural model</source>
+        <translation>The file is not a structural model</translation>
+    </message>
+    <message id="UI_MODEL_FILE_BAD_VERSION">
+        <source>The file does not say which version of the model format it is written in</source>
+        <translation>The file does not say which version of the model format it is written in</translation>
+    </message>
+    <message id="UI_MODEL_FILE_NEWER">
+        <source>The file is written in version %1 of the model format, by a newer application; this one reads up to version %2</source>
+        <translation>The file is written in version %1 of the model format, by a newer application; this one reads up to version %2</translation>
+    </message>
+    <message id="UI_MODEL_FILE_OBJECT_PROBLEM">
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message id="UI_MODEL_FILE_CANNOT_READ">
+        <source>Cannot read %1: %2</source>
+        <translation>Cannot read %1: %2</translation>
+    </message>
+    <message id="UI_MODEL_FILE_CANNOT_WRITE">
+        <source>Cannot write %1: %2</source>
+        <translation>Cannot write %1: %2</translation>
+    </message>
+    <message id="UI_NOTIFICATIONS_FILE_SAVED">
+        <source>Saved %1</source>
+        <translation>Saved %1</translation>
+    </message>
+    <message id="UI_NOTIFICATIONS_FILE_OPENED">
+        <source>Opened %1</source>
+        <translation>Opened %1</translation>
+    </message>
+    <message id="UI_NOTIFICATIONS_FILE_OPENED_UNDO">
+        <source>Undo brings back the model you had before.</source>
+        <translation>Undo brings back the model you had before.</translation>
+    </message>
+    <message id="UI_NOTIFICATIONS_FILE_OPEN_FAILED">
+        <source>Could not open %1</source>
+        <translation>Could not open %1</translation>
+    </message>
+    <message id="UI_NOTIFICATIONS_FILE_SAVE_FAILED">
+        <source>Could not save %1</source>
+        <translation>Could not save %1</translation>
+    </message>
+    <message id="UI_FILEDROP_OPEN">
+        <source>Drop to open %1</source>
+        <translation>Drop to open %1</translation>
+    </message>
+    <message id="UI_FILEDROP_UNSUPPORTED">
+        <source>Only model files (%1) can be opened here</source>
+        <translation>Only model files (%1) can be opened here</translation>
+    </message>
+    <message id="UI_FILEDROP_CANNOT_OPEN_NOW">
+        <source>Files cannot be opened right now</source>
+        <translation>Files cannot be opened right now</translation>
+    </message>
+    <message id="UI_COMMAND_RESTART_TOUR">
+        <source>Restart the tour</source>
+        <translation>Restart the tour</translation>
+    </message>
+    <message id="UI_MENU_HELP">
+        <source>Help</source>
+        <translation>Help</translation>
+    </message>
+    <message id="UI_TUTORIAL_PROGRESS">
+        <source>Step %1 of %2</source>
+        <translation>Step %1 of %2</translation>
+    </message>
+    <message id="UI_TUTORIAL_NEXT">
+        <source>Next</source>
+        <translation>Next</translation>
+    </message>
+    <message id="UI_TUTORIAL_BACK">
+        <source>Back</source>
+        <translation>Back</translation>
+    </message>
+    <message id="UI_TUTORIAL_DONE">
+        <source>Done</source>
+        <translation>Done</translation>
+    </message>
+    <message id="UI_TUTORIAL_SKIP">
+        <source>Skip the tour</source>
+        <translation>Skip the tour</translation>
+    </message>
+    <message id="UI_TUTORIAL_MENUS_TITLE">
+        <source>Menus</source>
+        <translation>Menus</translation>
+    </message>
+    <message id="UI_TUTORIAL_MENUS_TEXT">
+        <source>Every command of the application is in the menus, with its shortcut. File opens and saves models and lists the ones you used last.</source>
+        <translation>Every command of the application is in the menus, with its shortcut. File opens and saves models and lists the ones you used last.</translation>
+    </message>
+    <message id="UI_TUTORIAL_SEARCH_TITLE">
+        <source>Search</source>
+        <translation>Search</translation>
+    </message>
+    <message id="UI_TUTORIAL_SEARCH_TEXT">
+        <source>Type a few letters of a command to find it in the menus. Ctrl+Space opens the spotlight, which also finds objects and tables.</source>
+        <translation>Type a few letters of a command to find it in the menus. Ctrl+Space opens the spotlight, which also finds objects and tables.</translation>
+    </message>
+    <message id="UI_TUTORIAL_VIEW_TITLE">
+        <source>The model view</source>
+        <translation>The model view</translation>
+    </message>
+    <message id="UI_TUTORIAL_VIEW_TEXT">
+        <source>Turn the model with the middle mouse button, zoom with the wheel, click or drag to select. Hold the right button for the marking menu.</source>
+        <translation>Turn the model with the middle mouse button, zoom with the wheel, click or drag to select. Hold the right button for the marking menu.</translation>
+    </message>
+    <message id="UI_TUTORIAL_OBJECTS_TITLE">
+        <source>Objects of the model</source>
+        <translation>Objects of the model</translation>
+    </message>
+    <message id="UI_TUTORIAL_OBJECTS_TEXT">
+        <source>Every object of the model, kind by kind. What you select here is selected in the view and shown in the properties panel.</source>
+        <translation>Every object of the model, kind by kind. What you select here is selected in the view and shown in the properties panel.</translation>
+    </message>
+    <message id="UI_TUTORIAL_PROCESS_TITLE">
+        <source>Process toolbar</source>
+        <translation>Process toolbar</translation>
+    </message>
+    <message id="UI_TUTORIAL_PROCESS_TEXT">
+        <source>The steps from model to results. Its main button does what comes next, such as calculating the model.</source>
+        <translation>The steps from model to results. Its main button does what comes next, such as calculating the model.</translation>
+    </message>
+    <message id="UI_TUTORIAL_UNITS_TITLE">
+        <source>Units</source>
+        <translation>Units</translation>
+    </message>
+    <message id="UI_TUTORIAL_UNITS_TEXT">
+        <source>The units numbers are shown in. Choose others here; every field and table follows.</source>
+        <translation>The units numbers are shown in. Choose others here; every field and table follows.</translation>
+    </message>
+    <message id="UI_TUTORIAL_NOTIFICATIONS_TITLE">
+        <source>Notifications</source>
+        <translation>Notifications</translation>
+    </message>
+    <message id="UI_TUTORIAL_NOTIFICATIONS_TEXT">
+        <source>What the application tells you: calculations that finished, edits it refused, files it saved. You can restart this tour from the Help menu.</source>
+        <translation>What the application tells you: calculations that finished, edits it refused, files it saved. You can restart this tour from the Help menu.</translation>
+    </message>
+    <message id="UI_APP_FILE_OPEN_TITLE">
+        <source>Open a model</source>
+        <translation>Open a model</translation>
+    </message>
+    <message id="UI_APP_FILE_SAVE_TITLE">
+        <source>Save the model as</source>
+        <translation>Save the model as</translation>
+    </message>
+    <message id="UI_APP_FILE_PATH">
+        <source>File</source>
+        <translation>File</translation>
+    </message>
+    <message id="UI_APP_FILE_OPEN">
+        <source>Open</source>
+        <translation>Open</translation>
+    </message>
+    <message id="UI_APP_FILE_SAVE">
+        <source>Save</source>
+        <translation>Save</translation>
+    </message>
+    <message id="UI_APP_FILE_CANCEL">
+        <source>Cancel</source>
+        <translation>Cancel</translation>
+    </message>
     <message id="UI_COMMAND_REPORT">
         <source>Report</source>
         <translation>Report</translation>
@@ -946,6 +1138,58 @@
     <message id="UI_INPUT_GROUP_OBJECTS">
         <source>Objects</source>
         <translation>Objects</translation>
+    </message>
+    <message id="UI_INPUT_GROUP_POINT">
+        <source>Point</source>
+        <translation>Point</translation>
+    </message>
+    <message id="UI_INPUT_GROUP_MEMBER">
+        <source>Member</source>
+        <translation>Member</translation>
+    </message>
+    <message id="UI_INPUT_DIRECTION">
+        <source>Direction</source>
+        <translation>Direction</translation>
+    </message>
+    <message id="UI_INPUT_DIRECTION_X">
+        <source>Along X</source>
+        <translation>Along X</translation>
+    </message>
+    <message id="UI_INPUT_DIRECTION_Y">
+        <source>Along Y</source>
+        <translation>Along Y</translation>
+    </message>
+    <message id="UI_INPUT_DIRECTION_Z">
+        <source>Along Z (vertical)</source>
+        <translation>Along Z (vertical)</translation>
+    </message>
+    <message id="UI_INPUT_MODE">
+        <source>Mode</source>
+        <translation>Mode</translation>
+    </message>
+    <message id="UI_INPUT_MODE_MOVE">
+        <source>Move</source>
+        <translation>Move</translation>
+    </message>
+    <message id="UI_INPUT_MODE_COPY">
+        <source>Copy</source>
+        <translation>Copy</translation>
+    </message>
+    <message id="UI_INPUT_NO_OBJECTS">
+        <source>Nothing selected</source>
+        <translation>Nothing selected</translation>
+    </message>
+    <message id="UI_INPUT_SOME_REFUSED">
+        <source>some positions were refused</source>
+        <translation>some positions were refused</translation>
+    </message>
+    <message id="UI_INPUT_APPLY">
+        <source>Apply</source>
+        <translation>Apply</translation>
+    </message>
+    <message id="UI_INPUT_CANCEL">
+        <source>Cancel</source>
+        <translation>Cancel</translation>
     </message>
     <message id="UI_MENU_OBJECT">
         <source>Object</source>

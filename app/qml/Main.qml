@@ -10,6 +10,8 @@ import UIComponents.MarkingMenu
 import UIComponents.Spotlight
 import UIComponents.MenuSystem
 import UIComponents.Notifications
+import UIComponents.TutorialToolTip
+import UIComponents.InputPanel
 import UIComponents.StatusBar
 import Demo
 
@@ -76,6 +78,19 @@ ApplicationWindow {
         y: 60
     }
 
+    // The running command's inputs (New member, Move), docked at the left of the page beside
+    // the page list while the command runs, on whichever page it was started; the user may drag
+    // it elsewhere, and it opens there next time.
+    InputPanel {
+        id: inputPanel
+        objectName: "inputPanel"
+        parent: window.contentItem
+        z: 80
+        x: pageList.width + 12
+        y: 84
+        width: 300
+    }
+
     // The host's messages over every page: the centre opens from the bell in the header, toasts
     // show new ones in the bottom right corner.
     Notifications {
@@ -88,9 +103,43 @@ ApplicationWindow {
         onObjectSelected: pageList.currentIndex = window.pageIndex("model")
     }
 
-    // The Report command of the File menu opens the report page.
+    // Files dropped on the window: a model file opens, anything else is refused with a message.
+    // Over the whole window, menus and header included; it never takes the pointer.
+    Loader {
+        objectName: "fileDropLoader"
+        parent: window.contentItem.parent
+        anchors.fill: parent
+        z: 200
+        source: "qrc:/UIComponents/FileDrop/FileDrop.qml"
+    }
+
+    // The guided tour of the workspace: it starts on the model page, once, and again from the
+    // Help menu.
+    TutorialToolTip {
+        objectName: "tutorial"
+        parent: window.contentItem.parent
+        anchors.fill: parent
+        z: 95
+        autoStart: pageList.currentIndex === window.pageIndex("model")
+    }
+
+    // The file a file command needs when it ran without one (Open, Save as, the first Save).
+    FilePrompt {
+        id: filePrompt
+        onFileChosen: (path, saving) => {
+            if (saving)
+                DemoShell.commandActivity.saveFileAs(path)
+            else
+                DemoShell.commandActivity.openFile(path)
+        }
+    }
+    // File commands that need a file ask for it; the Report command of the File menu opens the
+    // report page.
     Connections {
         target: DemoShell.commandActivity
+        function onFileNameNeeded(save: bool, suggestedPath: string) {
+            filePrompt.ask(save, suggestedPath)
+        }
         function onReportRequested() {
             pageList.currentIndex = window.pageIndex("report")
         }

@@ -18,6 +18,7 @@
 #include "commands/RunningCommand.h"
 #include "commands/UICommandProcessor.h"
 #include "datamodel/Settings.h"
+#include "document/ModelDocument.h"
 #include "graphic/AnalysisResultsSource.h"
 #include "graphic/GraphicsService.h"
 #include "kernel/Directories.h"
@@ -113,6 +114,10 @@ void DefaultServices::Install(ServiceCatalog& catalog)
     catalog.Register<RecentFiles>(std::make_shared<RecentFiles>(
         Directories::GetDirectory(Directories::DirectoryType::UserConfigurationDirectory) / "RecentFiles.txt",
         catalog.Get<EventBus>()));
+    // After the recent files, which put a file a command names on top before it is opened: a
+    // file that cannot be opened then leaves the list again.
+    catalog.Register<ModelDocument>(std::make_shared<ModelDocument>(
+        structuralModel, eventBus, catalog.Get<RecentFiles>(), catalog.Get<IStringLoader>()));
     catalog.Register<RunningCommand>(std::make_shared<RunningCommand>(catalog.Get<EventBus>()));
     catalog.Register<UI::QtExtensions::MessageBoxService>(
         std::make_shared<UI::QtExtensions::MessageBoxService>(catalog.Get<EventBus>()));

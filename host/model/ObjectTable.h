@@ -36,6 +36,10 @@ public:
     // The number the next appended record gets.
     Number NextNumber() const { return m_next; }
 
+    // Counts every number below `next` as handed out (a file remembers the numbers of objects
+    // removed before it was saved).
+    void SetNextNumber(Number next) { m_next = std::max(m_next, next); }
+
     // Gives the record the next number and stores it last.
     Number Append(Record record)
     {

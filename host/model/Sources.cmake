@@ -3,6 +3,7 @@ target_sources(OrvoHostKit PRIVATE
     ${CMAKE_CURRENT_LIST_DIR}/MaterialCatalog.h ${CMAKE_CURRENT_LIST_DIR}/MaterialCatalog.cpp
     ${CMAKE_CURRENT_LIST_DIR}/ModelGenerator.h ${CMAKE_CURRENT_LIST_DIR}/ModelGenerator.cpp
     ${CMAKE_CURRENT_LIST_DIR}/ModelMessage.h ${CMAKE_CURRENT_LIST_DIR}/ModelMessage.cpp
+    ${CMAKE_CURRENT_LIST_DIR}/ModelFile.h ${CMAKE_CURRENT_LIST_DIR}/ModelFile.cpp
     ${CMAKE_CURRENT_LIST_DIR}/ModelRecords.h
     ${CMAKE_CURRENT_LIST_DIR}/ObjectIds.h
     ${CMAKE_CURRENT_LIST_DIR}/ObjectTable.h

@@ -10,5 +10,6 @@ target_sources(OrvoHostKit PRIVATE
     ${CMAKE_CURRENT_LIST_DIR}/StructuralModel.h ${CMAKE_CURRENT_LIST_DIR}/StructuralModel.cpp
     ${CMAKE_CURRENT_LIST_DIR}/StructuralModelEvents.h
     ${CMAKE_CURRENT_LIST_DIR}/StructuralObjectTypes.h ${CMAKE_CURRENT_LIST_DIR}/StructuralObjectTypes.cpp
+    ${CMAKE_CURRENT_LIST_DIR}/StructureReplaceCommand.h ${CMAKE_CURRENT_LIST_DIR}/StructureReplaceCommand.cpp
     ${CMAKE_CURRENT_LIST_DIR}/StructureUndoCommand.h ${CMAKE_CURRENT_LIST_DIR}/StructureUndoCommand.cpp
 )

@@ -2,6 +2,7 @@
 
 #include "StructuralModelEvents.h"
 #include "StructuralObjectTypes.h"
+#include "StructureReplaceCommand.h"
 #include "StructureUndoCommand.h"
 #include "framework/Debug.h"
 #include "framework/EventBus.h"
@@ -124,6 +125,30 @@ void StructuralModel::Replace(const std::function<void(Model::Structure&)>& fill
     if (m_eventBus)
         m_eventBus->Post(StructureChangedEvent {});
     DropMissingFromSelection();
+}
+
+void StructuralModel::ReplaceAsStep(Model::Structure structure, const QString& name,
+                                    std::function<void()> swapped)
+{
+    if (!m_undoStack) {
+        SwapStructure(structure);
+        if (swapped)
+            swapped();
+        return;
+    }
+    // The step makes the exchange when pushed, as its first redo.
+    m_undoStack->push(new StructureReplaceCommand(*this, std::move(structure), std::move(swapped), name));
+}
+
+void StructuralModel::SwapStructure(Model::Structure& other)
+{
+    std::swap(m_structure, other);
+    if (m_eventBus)
+        m_eventBus->Post(StructureChangedEvent {});
+    if (!m_selection.empty()) {
+        m_selection.clear();
+        NotifySelectionChanged();
+    }
 }
 
 bool StructuralModel::Exists(ObjectId id) const

@@ -70,6 +70,13 @@ public:
     // Replaces the whole structure (a generated model, a file read): not a step of the undo
     // stack, which it empties.
     void Replace(const std::function<void(Model::Structure&)>& fill);
+    // Replaces the whole structure as one step of the undo stack (a model file opened), so that
+    // undo brings back the structure it replaced. `swapped` runs after every exchange, both ways,
+    // for what belongs to the structure outside it (the file it came from).
+    void ReplaceAsStep(Model::Structure structure, const QString& name, std::function<void()> swapped = {});
+    // Undo and redo of such a step: exchanges the structure with `other`; the selection, which
+    // named objects of the other one, is emptied.
+    void SwapStructure(Model::Structure& other);
 
     bool Exists(ObjectId id) const;
     const ObjectType* TypeOf(ObjectId id) const;

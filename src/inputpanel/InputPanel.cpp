@@ -89,6 +89,11 @@ void InputPanel::loadConfiguration(const QString& userConfiguration)
     m_filterItemModel->setHiddenCategories(m_userConfiguration->hiddenCategories());
 }
 
+bool InputPanel::customUserSettingPosition() const
+{
+    return m_userConfiguration->placed();
+}
+
 QString InputPanel::saveConfiguration()
 {
     return m_userConfiguration->ToString();

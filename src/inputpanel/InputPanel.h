@@ -54,6 +54,9 @@ public:
 
     void loadConfiguration(const QString& userConfiguration) override;
     QString saveConfiguration() override;
+    // What the user folds, filters and where the panel stands are theirs, kept between sessions.
+    bool isPersistent() const override { return true; }
+    bool customUserSettingPosition() const override;
 
     void SetRunningCommand(std::shared_ptr<Kernel::Framework::RunningCommand> command);
     void SetEventbus(std::shared_ptr<Kernel::Framework::EventBus> eventbus) override;

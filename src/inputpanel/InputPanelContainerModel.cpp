@@ -52,6 +52,7 @@ void InputPanelContainerModel::Rebuild()
             found->inputs.push_back(input);
         }
     }
+    m_builtFor = m_command && m_command->IsRunning() ? m_command->CommandUuid() : std::wstring();
     const int before = rowCount();
     // A new command or a new set of inputs: nothing of the old rows carries over.
     beginResetModel();
@@ -65,6 +66,17 @@ void InputPanelContainerModel::Rebuild()
     }
     if (before != rowCount())
         emit countChanged();
+}
+
+void InputPanelContainerModel::OnRunningCommandChanged()
+{
+    // The same command asking for something else (New member's end point after its start)
+    // keeps its inputs, which announce their own changes: the rows, and the user's edits in
+    // them, stay.
+    const std::wstring running
+        = m_command && m_command->IsRunning() ? m_command->CommandUuid() : std::wstring();
+    if (running != m_builtFor)
+        Rebuild();
 }
 
 void InputPanelContainerModel::UpdateInput(const std::wstring& inputId)
@@ -223,8 +235,8 @@ void InputPanelContainerModel::SetEventbus(std::shared_ptr<EventBus> eventbus)
         m_inputsConnection = EventConnection();
         return;
     }
-    m_commandConnection
-        = m_eventbus->Subscribe<Events::RunningCommandChanged>([this](const auto&) { Rebuild(); });
+    m_commandConnection = m_eventbus->Subscribe<Events::RunningCommandChanged>(
+        [this](const auto&) { OnRunningCommandChanged(); });
     m_inputsConnection = m_eventbus->Subscribe<Events::RunningCommandInputsChanged>(
         [this](const Events::RunningCommandInputsChanged& event) {
             if (event.GetInputId().empty())

@@ -87,11 +87,14 @@ private:
         std::vector<Kernel::Framework::CommandInput> inputs;
     };
     void Rebuild();
+    void OnRunningCommandChanged();
     void UpdateInput(const std::wstring& inputId);
     void UpdateTags(const Kernel::Framework::CommandInput& input);
     QVariantList Fields(const Container& container) const;
 
     std::vector<Container> m_containers;
+    // The command the rows are of; empty when none runs.
+    std::wstring m_builtFor;
     QSet<QString> m_folded;
     QHash<QString, TagModel*> m_tags;
     std::shared_ptr<Kernel::Framework::RunningCommand> m_command;

@@ -2,12 +2,15 @@
 
 #include "NotificationsLogging.h"
 #include "analysis/AnalysisEvents.h"
+#include "document/ModelDocumentEvents.h"
 #include "framework/EventBus.h"
 #include "framework/ServiceCatalog.h"
 #include "plugin/QtComponentsText.h"
 #include "properties/StructuralModel.h"
 #include "properties/StructuralModelEvents.h"
 
+#include <QDir>
+#include <QFileInfo>
 #include <algorithm>
 
 namespace Orvo::UI::UIComponents {
@@ -73,6 +76,9 @@ void Notifications::SetEventbus(std::shared_ptr<EventBus> eventbus)
         m_analysisConnection = EventConnection();
         m_designConnection = EventConnection();
         m_rejectionConnection = EventConnection();
+        m_fileSavedConnection = EventConnection();
+        m_fileOpenedConnection = EventConnection();
+        m_fileFailedConnection = EventConnection();
         return;
     }
     m_analysisConnection
@@ -118,6 +124,29 @@ void Notifications::SetEventbus(std::shared_ptr<EventBus> eventbus)
         m_model->Add(NotificationsModel::Warning, GetText(QStringLiteral("UI_NOTIFICATIONS_EDIT_REFUSED")),
                      event.message, std::move(actions), event.object);
     });
+    m_fileSavedConnection = m_eventbus->Subscribe<ModelFileSavedEvent>(
+        [this](const ModelFileSavedEvent& event) {
+            m_model->Add(
+                NotificationsModel::Success,
+                GetText(QStringLiteral("UI_NOTIFICATIONS_FILE_SAVED")).arg(QFileInfo(event.path).fileName()),
+                QDir::toNativeSeparators(event.path));
+        });
+    m_fileOpenedConnection = m_eventbus->Subscribe<ModelFileOpenedEvent>(
+        [this](const ModelFileOpenedEvent& event) {
+            // Opening replaced the model: say how to get the previous one back.
+            m_model->Add(
+                NotificationsModel::Information,
+                GetText(QStringLiteral("UI_NOTIFICATIONS_FILE_OPENED")).arg(QFileInfo(event.path).fileName()),
+                GetText(QStringLiteral("UI_NOTIFICATIONS_FILE_OPENED_UNDO")));
+        });
+    m_fileFailedConnection
+        = m_eventbus->Subscribe<ModelFileFailedEvent>([this](const ModelFileFailedEvent& event) {
+              const QString titleId = event.operation == ModelFileOperation::Open
+                  ? QStringLiteral("UI_NOTIFICATIONS_FILE_OPEN_FAILED")
+                  : QStringLiteral("UI_NOTIFICATIONS_FILE_SAVE_FAILED");
+              m_model->Add(NotificationsModel::Error, GetText(titleId).arg(QFileInfo(event.path).fileName()),
+                           event.message);
+          });
 }
 
 std::shared_ptr<EventBus> Notifications::GetEventbus() const

@@ -17,8 +17,9 @@ namespace Orvo::UI::UIComponents {
 
 // The native half of the notification centre. It turns what the host posts on its event bus
 // into messages: an analysis that finished or failed, the outcome of a design check, an edit the
-// model refused (with the object it is about, which the user can select from the message). The centre's list
-// and the toasts are two views of one model, narrowed by the severity buttons and by the toast state.
+// model refused (with the object it is about, which the user can select from the message), a
+// model file written, opened or refused. The centre's list and the toasts are two views of one
+// model, narrowed by the severity buttons and by the toast state.
 class Notifications : public Orvo::UI::QtExtensions::UIComponent, public Kernel::Framework::INeedEventbus
 {
     Q_OBJECT
@@ -69,6 +70,9 @@ private:
     Kernel::Framework::EventConnection m_analysisConnection;
     Kernel::Framework::EventConnection m_designConnection;
     Kernel::Framework::EventConnection m_rejectionConnection;
+    Kernel::Framework::EventConnection m_fileSavedConnection;
+    Kernel::Framework::EventConnection m_fileOpenedConnection;
+    Kernel::Framework::EventConnection m_fileFailedConnection;
 };
 
 } // namespace Orvo::UI::UIComponents

@@ -7,6 +7,7 @@
 #include "common/FilterItemsProxyModel.h"
 #include "common/SelectionModel.h"
 #include "common/SimpleComboBoxProxyModel.h"
+#include "filedrop/FileDrop.h"
 #include "inputpanel/FilterBarItemModel.h"
 #include "inputpanel/FilterBarItemProxyModel.h"
 #include "inputpanel/InputPanel.h"
@@ -55,6 +56,8 @@
 #include "tables/TableSelectionModel.h"
 #include "tables/TableTabsModel.h"
 #include "tables/TableWorkstationsModel.h"
+#include "tutorial/TutorialToolTip.h"
+#include "tutorial/TutorialToolTipData.h"
 #include "valueentry/InlineCalculator.h"
 #include "valueentry/IntegerValidator.h"
 #include "valueentry/RealValidator.h"
@@ -123,9 +126,12 @@ void RegisterQtComponentsTypes(const char* uri)
     qmlRegisterType<SelectionModel>(uri, major, minor, "SelectionModel");
     qmlRegisterType<SimpleComboBoxProxyModel>(uri, major, minor, "SimpleComboBoxProxyModel");
     qmlRegisterType<CommandMenuHelper>(uri, major, minor, "CommandMenuHelper");
+    qmlRegisterType<FileDrop>(uri, major, minor, "FileDrop_Cpp");
     qmlRegisterType<IntegerValidator>(uri, major, minor, "IntegerValidator");
     qmlRegisterType<RealValidator>(uri, major, minor, "RealValidator");
     qmlRegisterType<InlineCalculator>(uri, major, minor, "InlineCalculator");
+    qmlRegisterType<TutorialToolTip>(uri, major, minor, "TutorialToolTip_Cpp");
+    qmlRegisterType<TutorialToolTipData>(uri, major, minor, "TutorialToolTipData");
     qmlRegisterType<IllustrationData>(uri, major, minor, "IllustrationData");
     qmlRegisterType<TableResult>(uri, major, minor, "TableResult_Cpp");
     qmlRegisterType<TableInput>(uri, major, minor, "TableInput_Cpp");

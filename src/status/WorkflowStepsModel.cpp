@@ -8,23 +8,25 @@ namespace Orvo::UI::UIComponents {
 
 const std::vector<WorkflowStepsModel::Step>& WorkflowStepsModel::Steps()
 {
-    // Ctrl and the step's place; F5 runs the current step's action wherever the focus is.
+    // Ctrl and the step's place; F5 runs the current step's action wherever the focus is. No
+    // Shift: with it a digit key types another character on most layouts ("#" for 3 on a US
+    // keyboard), and the shortcut never fires.
     static const std::vector<Step> steps {
         { QStringLiteral("model"), QStringLiteral("UI_PROCESS_MODEL"),
           QStringLiteral("UI_PROCESS_MODEL_DESCRIPTION"), QStringLiteral("UI_PROCESS_MODEL_ACTION"),
-          QStringLiteral("Ctrl+Shift+1") },
+          QStringLiteral("Ctrl+1") },
         { QStringLiteral("loads"), QStringLiteral("UI_PROCESS_LOADS"),
           QStringLiteral("UI_PROCESS_LOADS_DESCRIPTION"), QStringLiteral("UI_PROCESS_LOADS_ACTION"),
-          QStringLiteral("Ctrl+Shift+2") },
+          QStringLiteral("Ctrl+2") },
         { QStringLiteral("analysis"), QStringLiteral("UI_PROCESS_ANALYSIS"),
           QStringLiteral("UI_PROCESS_ANALYSIS_DESCRIPTION"), QStringLiteral("UI_PROCESS_ANALYSIS_ACTION"),
-          QStringLiteral("Ctrl+Shift+3") },
+          QStringLiteral("Ctrl+3") },
         { QStringLiteral("results"), QStringLiteral("UI_PROCESS_RESULTS"),
           QStringLiteral("UI_PROCESS_RESULTS_DESCRIPTION"), QStringLiteral("UI_PROCESS_RESULTS_ACTION"),
-          QStringLiteral("Ctrl+Shift+4") },
+          QStringLiteral("Ctrl+4") },
         { QStringLiteral("design"), QStringLiteral("UI_PROCESS_DESIGN"),
           QStringLiteral("UI_PROCESS_DESIGN_DESCRIPTION"), QStringLiteral("UI_PROCESS_DESIGN_ACTION"),
-          QStringLiteral("Ctrl+Shift+5") },
+          QStringLiteral("Ctrl+5") },
     };
     return steps;
 }

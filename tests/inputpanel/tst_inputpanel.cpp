@@ -9,6 +9,8 @@
 #include "inputpanel/TagModel.h"
 
 #include <QAbstractItemModelTester>
+#include <QQmlComponent>
+#include <QQmlEngine>
 #include <QSignalSpy>
 #include <QTest>
 #include <cmath>
@@ -120,6 +122,28 @@ private slots:
                      .value("number"),
                  QVariant(2.5));
 
+        Command()->Finish();
+        QCOMPARE(containers.rowCount(), 0);
+    }
+
+    void containersShouldStayWhileTheCommandAsksForItsNextPoint()
+    {
+        InputPanelContainerModel containers;
+        QAbstractItemModelTester tester(&containers, QAbstractItemModelTester::FailureReportingMode::QtTest);
+        StartMove();
+        QSignalSpy reset(&containers, &QAbstractItemModel::modelReset);
+        QSignalSpy removed(&containers, &QAbstractItemModel::rowsRemoved);
+        Command()->SetPrompt(L"UI_PROMPT_END_POINT", 3);
+        Command()->Start(c_move, L"UI_PROMPT_START_POINT"); // the same command again keeps its inputs
+        QCOMPARE(reset.count(), 0);
+        QCOMPARE(removed.count(), 0);
+        QCOMPARE(containers.rowCount(), 3);
+
+        // Another command, or none, is a new set of rows.
+        Command()->Start(L"other", L"UI_PROMPT_START_POINT");
+        QCOMPARE(reset.count(), 1);
+        QCOMPARE(containers.rowCount(), 0);
+        StartMove();
         Command()->Finish();
         QCOMPARE(containers.rowCount(), 0);
     }
@@ -236,6 +260,34 @@ private slots:
         QVERIFY(reread.FromString(panel.saveConfiguration()));
         QVERIFY(reread.foldedContainers().contains(QStringLiteral("UI_INPUT_GROUP_COPIES")));
         QCOMPARE(reread.placed(), placed);
+    }
+
+    void foldingAndPlaceShouldOutliveThePanel()
+    {
+        qmlRegisterType<InputPanel>("InputPanelTest", 1, 0, "InputPanel_Cpp");
+        QQmlEngine engine;
+        QQmlComponent component(&engine);
+        component.setData(R"(import InputPanelTest
+InputPanel_Cpp { configurationKey: "TestInputPanel" })",
+                          QUrl());
+        StartMove();
+        {
+            std::unique_ptr<QObject> created(component.create());
+            auto* panel = qobject_cast<InputPanel*>(created.get());
+            QVERIFY2(panel, qPrintable(component.errorString()));
+            QVERIFY(!panel->customUserSettingPosition());
+            panel->containers()->setFolded(0, true);
+            panel->userConfiguration()->setPosition(QPointF(30, 40));
+            QVERIFY(panel->customUserSettingPosition());
+            panel->storeConfiguration();
+        }
+        std::unique_ptr<QObject> created(component.create());
+        auto* panel = qobject_cast<InputPanel*>(created.get());
+        QVERIFY(panel);
+        QVERIFY(panel->containers()->index(0, 0).data(InputPanelContainerModel::FoldedRole).toBool());
+        QVERIFY(!panel->containers()->index(1, 0).data(InputPanelContainerModel::FoldedRole).toBool());
+        QCOMPARE(panel->userConfiguration()->position(), QPointF(30, 40));
+        QVERIFY(panel->customUserSettingPosition());
     }
 
     void applyAndCancelShouldReachTheCommand()

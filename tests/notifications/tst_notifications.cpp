@@ -1,5 +1,6 @@
 #include "TestHost.h"
 #include "analysis/AnalysisEvents.h"
+#include "document/ModelDocumentEvents.h"
 #include "framework/EventBus.h"
 #include "model/ModelGenerator.h"
 #include "model/ObjectIds.h"
@@ -91,6 +92,37 @@ private slots:
             QCOMPARE(centre.toasts()->rowCount(), 1);
             QCOMPARE(centre.notificationsModel()->unreadCount(), 1);
         }
+    }
+
+    void shouldTellWhatBecameOfAModelFile_data()
+    {
+        QTest::addColumn<int>("outcome");
+        QTest::addColumn<QString>("expected");
+        QTest::newRow("saved") << 0 << "Success|Saved Frame.qcm|/work/Frame.qcm|";
+        QTest::newRow("opened") << 1
+                                << "Information|Opened Frame.qcm|Undo brings back the model you had before.|";
+        QTest::newRow("not opened") << 2
+                                    << "Error|Could not open Frame.qcm|The file is not a structural model|";
+        QTest::newRow("not saved") << 3 << "Error|Could not save Frame.qcm|Cannot write|";
+    }
+
+    void shouldTellWhatBecameOfAModelFile()
+    {
+        QFETCH(int, outcome);
+        QFETCH(QString, expected);
+        Notifications centre;
+        const QString path = QStringLiteral("/work/Frame.qcm");
+        if (outcome == 0)
+            Bus().Post(ModelFileSavedEvent { path });
+        else if (outcome == 1)
+            Bus().Post(ModelFileOpenedEvent { path });
+        else if (outcome == 2)
+            Bus().Post(ModelFileFailedEvent { ModelFileOperation::Open, path,
+                                              "The file is not a structural model" });
+        else
+            Bus().Post(ModelFileFailedEvent { ModelFileOperation::Save, path, "Cannot write" });
+        QCOMPARE(centre.notificationsModel()->rowCount(), 1);
+        QCOMPARE(DescribeNewest(centre), expected);
     }
 
     void shouldTurnDesignChecksIntoMessages_data()

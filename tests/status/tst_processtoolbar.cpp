@@ -202,7 +202,7 @@ private slots:
         m_toolbar->showTooltip(AnalysisStep);
         QCOMPARE(m_toolbar->tooltip()->title(), QStringLiteral("Analysis"));
         QVERIFY(!m_toolbar->tooltip()->description().isEmpty());
-        QCOMPARE(m_toolbar->tooltip()->shortcut(), QStringLiteral("Ctrl+Shift+3"));
+        QCOMPARE(m_toolbar->tooltip()->shortcut(), QStringLiteral("Ctrl+3"));
         QCOMPARE(m_toolbar->tooltip()->status(), QStringLiteral("Needs an update: the model changed since"));
 
         m_toolbar->setCurrentStep(AnalysisStep);

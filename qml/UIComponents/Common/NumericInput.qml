@@ -169,7 +169,14 @@ FocusScope {
             if (!activeFocus && !root.accept() && !d.hasText)
                 root.revert()
         }
-        Keys.onEscapePressed: root.revert()
+        // Escape first drops an edit; with nothing to drop it is left to what holds the field
+        // (a command's panel cancels the command).
+        Keys.onEscapePressed: event => {
+            if (d.edited)
+                root.revert()
+            else
+                event.accepted = false
+        }
 
         BasicLabel {
             id: insideMessage
@@ -185,9 +192,18 @@ FocusScope {
     BasicLabel {
         id: unitLabel
         anchors { right: parent.right; verticalCenter: field.verticalCenter }
-        width: root.unit.length > 0 ? Math.max(implicitWidth, root.unitMinimumWidth) : 0
+        // Measured apart from the label: a label whose text just changed lays itself out when
+        // asked for its size, which would change the size while this binding reads it.
+        width: root.unit.length > 0 ? Math.max(Math.ceil(unitMetrics.advanceWidth) + leftPadding + rightPadding,
+                                               root.unitMinimumWidth) : 0
         text: root.unit
         color: BasicConstants.colors.textSecondary
+
+        TextMetrics {
+            id: unitMetrics
+            font: unitLabel.font
+            text: root.unit
+        }
     }
 
     // The live result or the reason, on a line of its own under the field.

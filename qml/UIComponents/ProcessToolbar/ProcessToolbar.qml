@@ -54,6 +54,9 @@ ProcessToolbar_Cpp {
         required property string title
         required property string shortcut
         required property string stateName
+        // Each step has a button in both halves of the bar; only the shown one takes its key,
+        // since Qt runs neither of two shortcuts on the same key.
+        property bool shown: false
         signal chosen()
         signal hoverChanged(bool inside)
         objectName: "step_" + stepId
@@ -75,12 +78,14 @@ ProcessToolbar_Cpp {
         Shortcut {
             sequence: stepButton.shortcut
             context: Qt.ApplicationShortcut
+            enabled: stepButton.shown
             onActivated: stepButton.chosen()
         }
     }
 
     function connectStep(index, item, shown) {
         item.visible = shown
+        item.shown = shown
         item.compact = Qt.binding(() => toolbar.width < d.compactBelow)
         item.current = Qt.binding(() => toolbar.currentStep === index)
         item.chosen.connect(() => toolbar.currentStep = index)
