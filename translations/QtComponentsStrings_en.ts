@@ -931,6 +931,90 @@
         <source>Files cannot be opened right now</source>
         <translation>Files cannot be opened right now</translation>
     </message>
+    <message id="UI_COMMAND_RESTART_TOUR">
+        <source>Restart the tour</source>
+        <translation>Restart the tour</translation>
+    </message>
+    <message id="UI_MENU_HELP">
+        <source>Help</source>
+        <translation>Help</translation>
+    </message>
+    <message id="UI_TUTORIAL_PROGRESS">
+        <source>Step %1 of %2</source>
+        <translation>Step %1 of %2</translation>
+    </message>
+    <message id="UI_TUTORIAL_NEXT">
+        <source>Next</source>
+        <translation>Next</translation>
+    </message>
+    <message id="UI_TUTORIAL_BACK">
+        <source>Back</source>
+        <translation>Back</translation>
+    </message>
+    <message id="UI_TUTORIAL_DONE">
+        <source>Done</source>
+        <translation>Done</translation>
+    </message>
+    <message id="UI_TUTORIAL_SKIP">
+        <source>Skip the tour</source>
+        <translation>Skip the tour</translation>
+    </message>
+    <message id="UI_TUTORIAL_MENUS_TITLE">
+        <source>Menus</source>
+        <translation>Menus</translation>
+    </message>
+    <message id="UI_TUTORIAL_MENUS_TEXT">
+        <source>Every command of the application is in the menus, with its shortcut. File opens and saves models and lists the ones you used last.</source>
+        <translation>Every command of the application is in the menus, with its shortcut. File opens and saves models and lists the ones you used last.</translation>
+    </message>
+    <message id="UI_TUTORIAL_SEARCH_TITLE">
+        <source>Search</source>
+        <translation>Search</translation>
+    </message>
+    <message id="UI_TUTORIAL_SEARCH_TEXT">
+        <source>Type a few letters of a command to find it in the menus. Ctrl+Space opens the spotlight, which also finds objects and tables.</source>
+        <translation>Type a few letters of a command to find it in the menus. Ctrl+Space opens the spotlight, which also finds objects and tables.</translation>
+    </message>
+    <message id="UI_TUTORIAL_VIEW_TITLE">
+        <source>The model view</source>
+        <translation>The model view</translation>
+    </message>
+    <message id="UI_TUTORIAL_VIEW_TEXT">
+        <source>Turn the model with the middle mouse button, zoom with the wheel, click or drag to select. Hold the right button for the marking menu.</source>
+        <translation>Turn the model with the middle mouse button, zoom with the wheel, click or drag to select. Hold the right button for the marking menu.</translation>
+    </message>
+    <message id="UI_TUTORIAL_OBJECTS_TITLE">
+        <source>Objects of the model</source>
+        <translation>Objects of the model</translation>
+    </message>
+    <message id="UI_TUTORIAL_OBJECTS_TEXT">
+        <source>Every object of the model, kind by kind. What you select here is selected in the view and shown in the properties panel.</source>
+        <translation>Every object of the model, kind by kind. What you select here is selected in the view and shown in the properties panel.</translation>
+    </message>
+    <message id="UI_TUTORIAL_PROCESS_TITLE">
+        <source>Process toolbar</source>
+        <translation>Process toolbar</translation>
+    </message>
+    <message id="UI_TUTORIAL_PROCESS_TEXT">
+        <source>The steps from model to results. Its main button does what comes next, such as calculating the model.</source>
+        <translation>The steps from model to results. Its main button does what comes next, such as calculating the model.</translation>
+    </message>
+    <message id="UI_TUTORIAL_UNITS_TITLE">
+        <source>Units</source>
+        <translation>Units</translation>
+    </message>
+    <message id="UI_TUTORIAL_UNITS_TEXT">
+        <source>The units numbers are shown in. Choose others here; every field and table follows.</source>
+        <translation>The units numbers are shown in. Choose others here; every field and table follows.</translation>
+    </message>
+    <message id="UI_TUTORIAL_NOTIFICATIONS_TITLE">
+        <source>Notifications</source>
+        <translation>Notifications</translation>
+    </message>
+    <message id="UI_TUTORIAL_NOTIFICATIONS_TEXT">
+        <source>What the application tells you: calculations that finished, edits it refused, files it saved. You can restart this tour from the Help menu.</source>
+        <translation>What the application tells you: calculations that finished, edits it refused, files it saved. You can restart this tour from the Help menu.</translation>
+    </message>
     <message id="UI_APP_FILE_OPEN_TITLE">
         <source>Open a model</source>
         <translation>Open a model</translation>

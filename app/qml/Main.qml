@@ -10,6 +10,7 @@ import UIComponents.MarkingMenu
 import UIComponents.Spotlight
 import UIComponents.MenuSystem
 import UIComponents.Notifications
+import UIComponents.TutorialToolTip
 import UIComponents.InputPanel
 import UIComponents.StatusBar
 import Demo
@@ -110,6 +111,16 @@ ApplicationWindow {
         anchors.fill: parent
         z: 200
         source: "qrc:/UIComponents/FileDrop/FileDrop.qml"
+    }
+
+    // The guided tour of the workspace: it starts on the model page, once, and again from the
+    // Help menu.
+    TutorialToolTip {
+        objectName: "tutorial"
+        parent: window.contentItem.parent
+        anchors.fill: parent
+        z: 95
+        autoStart: pageList.currentIndex === window.pageIndex("model")
     }
 
     // The file a file command needs when it ran without one (Open, Save as, the first Save).

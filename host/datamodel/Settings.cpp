@@ -58,6 +58,8 @@ const QHash<QString, Definition>& Definitions()
         { Settings::c_accountOrganisation, { Kind::Text } },
         { Settings::c_accountInitials, { Kind::Text } },
         { Settings::c_accountCountry, { Kind::Text } },
+        { Settings::c_tutorialSeen, { Kind::Text } },
+        { Settings::c_tutorialDone, { Kind::Boolean } },
     };
     return definitions;
 }

@@ -54,6 +54,10 @@ public:
     // The avatar's letters when the user chose them rather than have them derived from the name.
     static inline const QString c_accountInitials = QStringLiteral("Account/Initials");
     static inline const QString c_accountCountry = QStringLiteral("Account/Country");
+    // The guided tour: the steps the user has seen (their ids, comma-separated), and whether the
+    // tour was finished or skipped.
+    static inline const QString c_tutorialSeen = QStringLiteral("Tutorial/Seen");
+    static inline const QString c_tutorialDone = QStringLiteral("Tutorial/Done");
 
     explicit Settings(std::filesystem::path file,
                       std::shared_ptr<Kernel::Framework::EventBus> eventBus = nullptr);

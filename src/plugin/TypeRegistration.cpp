@@ -56,6 +56,8 @@
 #include "tables/TableSelectionModel.h"
 #include "tables/TableTabsModel.h"
 #include "tables/TableWorkstationsModel.h"
+#include "tutorial/TutorialToolTip.h"
+#include "tutorial/TutorialToolTipData.h"
 #include "valueentry/InlineCalculator.h"
 #include "valueentry/IntegerValidator.h"
 #include "valueentry/RealValidator.h"
@@ -128,6 +130,8 @@ void RegisterQtComponentsTypes(const char* uri)
     qmlRegisterType<IntegerValidator>(uri, major, minor, "IntegerValidator");
     qmlRegisterType<RealValidator>(uri, major, minor, "RealValidator");
     qmlRegisterType<InlineCalculator>(uri, major, minor, "InlineCalculator");
+    qmlRegisterType<TutorialToolTip>(uri, major, minor, "TutorialToolTip_Cpp");
+    qmlRegisterType<TutorialToolTipData>(uri, major, minor, "TutorialToolTipData");
     qmlRegisterType<IllustrationData>(uri, major, minor, "IllustrationData");
     qmlRegisterType<TableResult>(uri, major, minor, "TableResult_Cpp");
     qmlRegisterType<TableInput>(uri, major, minor, "TableInput_Cpp");
