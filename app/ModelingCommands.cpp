@@ -101,6 +101,19 @@ Number NodeOf(const StructuralModel& model, ObjectId member, const QString& key)
 
 const QString c_nodeKeys[] = { QStringLiteral("node.x"), QStringLiteral("node.y"), QStringLiteral("node.z") };
 
+ObjectId AddNode(StructuralModel& model, const std::vector<double>& point)
+{
+    return model.AddObject(
+        ObjectKind::Node,
+        { { c_nodeKeys[0], point[0] }, { c_nodeKeys[1], point[1] }, { c_nodeKeys[2], point[2] } });
+}
+
+// The three numbers of a point or vector as the panel shows them.
+std::vector<double> NumbersOfInputs(const RunningCommand& running, const wchar_t* const (&ids)[3])
+{
+    return { NumberOfInput(running, ids[0]), NumberOfInput(running, ids[1]), NumberOfInput(running, ids[2]) };
+}
+
 } // namespace
 
 ModelingCommands::ModelingCommands(QObject* parent)
@@ -188,8 +201,7 @@ void ModelingCommands::cancel()
 
 std::vector<double> ModelingCommands::ShownPoint(const RunningCommand& running)
 {
-    return { NumberOfInput(running, c_pointIds[0]), NumberOfInput(running, c_pointIds[1]),
-             NumberOfInput(running, c_pointIds[2]) };
+    return NumbersOfInputs(running, c_pointIds);
 }
 
 void ModelingCommands::ShowPoint(RunningCommand& running, const std::vector<double>& point)
@@ -201,14 +213,9 @@ void ModelingCommands::ShowPoint(RunningCommand& running, const std::vector<doub
 ObjectId ModelingCommands::AddMember(StructuralModel& model, const std::vector<double>& start,
                                      const std::vector<double>& end)
 {
-    const auto addNode = [&](const std::vector<double>& point) {
-        return model.AddObject(
-            ObjectKind::Node,
-            { { c_nodeKeys[0], point[0] }, { c_nodeKeys[1], point[1] }, { c_nodeKeys[2], point[2] } });
-    };
     StructuralModel::ChangeScope scope(model, model.PlainText(QStringLiteral("UI_COMMAND_NEW_MEMBER")));
-    const Number startNode = NumberOf(addNode(start));
-    const Number endNode = NumberOf(addNode(end));
+    const Number startNode = NumberOf(AddNode(model, start));
+    const Number endNode = NumberOf(AddNode(model, end));
     return model.AddObject(
         ObjectKind::Member,
         { { QStringLiteral("member.startNode"), startNode }, { QStringLiteral("member.endNode"), endNode } });
@@ -224,9 +231,7 @@ void ModelingCommands::OnInput(const std::wstring& commandUuid, const std::vecto
     m_lastInput = PointText(values);
     if (commandUuid == c_newNode) {
         ShowPoint(*running, values);
-        const ObjectId node = model->AddObject(
-            ObjectKind::Node,
-            { { c_nodeKeys[0], values[0] }, { c_nodeKeys[1], values[1] }, { c_nodeKeys[2], values[2] } });
+        const ObjectId node = AddNode(*model, values);
         m_lastResult = node ? model->ObjectsPhrase({ node }) : QString();
         // New node stays on for the next point, as drawing tools do; Escape ends it.
     } else if (commandUuid == c_newMember) {
@@ -263,9 +268,7 @@ void ModelingCommands::OnApply(const std::wstring& commandUuid)
     if (commandUuid == c_newNode) {
         const std::vector<double> point = ShownPoint(*running);
         m_lastInput = PointText(point);
-        const ObjectId node = model->AddObject(
-            ObjectKind::Node,
-            { { c_nodeKeys[0], point[0] }, { c_nodeKeys[1], point[1] }, { c_nodeKeys[2], point[2] } });
+        const ObjectId node = AddNode(*model, point);
         m_lastResult = node ? model->ObjectsPhrase({ node }) : QString();
     } else if (commandUuid == c_newMember) {
         const std::vector<double> start = ShownPoint(*running);
@@ -295,9 +298,7 @@ void ModelingCommands::OnApply(const std::wstring& commandUuid)
 
 void ModelingCommands::ApplyMove(RunningCommand& running, StructuralModel& model)
 {
-    const std::vector<double> vector { NumberOfInput(running, c_vectorIds[0]),
-                                       NumberOfInput(running, c_vectorIds[1]),
-                                       NumberOfInput(running, c_vectorIds[2]) };
+    const std::vector<double> vector = NumbersOfInputs(running, c_vectorIds);
     const CommandInput* objects = running.FindInput(c_objects);
     const CommandInput* mode = running.FindInput(c_mode);
     const bool copy = mode && mode->choice == int(MoveMode::Copy);
