@@ -13,19 +13,86 @@ ExpressionFilterCondition::ExpressionFilterCondition(QString const& operand, Com
     , m_comparer(comparer)
 { }
 
+namespace {
+
+using Comparer = ExpressionFilterCondition::Comparer;
+
+template<Comparer comparer> bool Passes(double cell, double value, double tolerance)
+{
+    switch (comparer) {
+    case Comparer::Less:
+        return FilterComparison::IsLessWithin(cell, value, tolerance);
+    case Comparer::LessOrEqual:
+        return FilterComparison::IsLessOrEqualWithin(cell, value, tolerance);
+    case Comparer::Equal:
+        return FilterComparison::EqualWithin(cell, value, tolerance);
+    case Comparer::NotEqual:
+        return !FilterComparison::EqualWithin(cell, value, tolerance);
+    case Comparer::GreaterOrEqual:
+        return FilterComparison::IsLessOrEqualWithin(value, cell, tolerance);
+    case Comparer::Greater:
+        return FilterComparison::IsLessWithin(value, cell, tolerance);
+    }
+    return false;
+}
+
+// The rows that hold a number, all compared with the operand number in one tight loop: the
+// comparer is chosen once per bulk and the tolerance looked up only when the decimals change.
+template<Comparer comparer>
+BulkRows NumbersPassing(const FilterFoldedBulk::Numbers& numbers, int rows, double operand)
+{
+    BulkRows passing;
+    int precision = numbers.precision[0];
+    double tolerance = FilterComparison::Tolerance(precision);
+    for (std::size_t row = 0; row < static_cast<std::size_t>(rows); ++row) {
+        if (numbers.precision[row] != precision) {
+            precision = numbers.precision[row];
+            tolerance = FilterComparison::Tolerance(precision);
+        }
+        passing.set(row, Passes<comparer>(numbers.strict[row], operand, tolerance));
+    }
+    return passing;
+}
+
+BulkRows NumbersPassing(Comparer comparer, const FilterFoldedBulk::Numbers& numbers, int rows, double operand)
+{
+    switch (comparer) {
+    case Comparer::Less:
+        return NumbersPassing<Comparer::Less>(numbers, rows, operand);
+    case Comparer::LessOrEqual:
+        return NumbersPassing<Comparer::LessOrEqual>(numbers, rows, operand);
+    case Comparer::Equal:
+        return NumbersPassing<Comparer::Equal>(numbers, rows, operand);
+    case Comparer::NotEqual:
+        return NumbersPassing<Comparer::NotEqual>(numbers, rows, operand);
+    case Comparer::GreaterOrEqual:
+        return NumbersPassing<Comparer::GreaterOrEqual>(numbers, rows, operand);
+    case Comparer::Greater:
+        return NumbersPassing<Comparer::Greater>(numbers, rows, operand);
+    }
+    return {};
+}
+
+} // namespace
+
 BulkRows ExpressionFilterCondition::Narrow(const FilterFoldedBulk& bulk, BulkRows candidates,
                                            BulkRows& unjudged) const
 {
     const FilterFoldedBulk::Numbers& numbers = *bulk.numbers;
     const FoldedSide operand { m_operandNumber, m_operandLenient };
     BulkRows accepted;
+    // Nearly every cell of a numeric column is a number: those are judged all at once.
+    if (m_operandNumber && bulk.rows > 0) {
+        const BulkRows numbered = candidates & numbers.hasStrict;
+        accepted = NumbersPassing(m_comparer, numbers, bulk.rows, *m_operandNumber) & numbered;
+        candidates &= ~numbered;
+    }
+    if (candidates.none())
+        return accepted;
     for (std::size_t row = 0; row < static_cast<std::size_t>(bulk.rows); ++row) {
         if (!candidates.test(row))
             continue;
-        // Nearly every cell of a numeric column is a number: that case skips the general reading.
-        const std::optional<FoldedPair> pair = m_operandNumber && numbers.hasStrict.test(row)
-            ? std::optional<FoldedPair>(FoldedPair { numbers.strict[row], *m_operandNumber })
-            : ComparedNumbers(numbers.Side(row), operand);
+        const std::optional<FoldedPair> pair = ComparedNumbers(numbers.Side(row), operand);
         if (!pair) {
             unjudged.set(row); // compared as texts
             continue;

@@ -65,9 +65,16 @@ public:
     static bool Equal(ComparedText const& a, ComparedText const& b, int precision);
 
     // The same comparisons once both sides are numbers.
-    static bool IsLess(double a, double b, int precision) { return b - a > Tolerance(precision); }
-    static bool IsLessOrEqual(double a, double b, int precision) { return b - a > -Tolerance(precision); }
-    static bool Equal(double a, double b, int precision) { return Tolerance(precision) >= std::abs(a - b); }
+    static bool IsLess(double a, double b, int precision) { return IsLessWithin(a, b, Tolerance(precision)); }
+    static bool IsLessOrEqual(double a, double b, int precision)
+    {
+        return IsLessOrEqualWithin(a, b, Tolerance(precision));
+    }
+    static bool Equal(double a, double b, int precision) { return EqualWithin(a, b, Tolerance(precision)); }
+    // And with the tolerance already looked up, for loops over many cells of one precision.
+    static bool IsLessWithin(double a, double b, double tolerance) { return b - a > tolerance; }
+    static bool IsLessOrEqualWithin(double a, double b, double tolerance) { return b - a > -tolerance; }
+    static bool EqualWithin(double a, double b, double tolerance) { return tolerance >= std::abs(a - b); }
 };
 
 } // namespace Orvo::UI::UIComponents
