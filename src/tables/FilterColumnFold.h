@@ -97,8 +97,22 @@ public:
     static std::unique_ptr<FilterFoldedBulk::Numbers> FoldNumbers(const TableContentGrid& grid, int bulk,
                                                                   int column, int rows);
 
+    // Remembers that every cell of the column was in the grid at the grid's revision, so that the
+    // question is not answered bulk by bulk again while nothing changed.
+    void SetDelivered(std::uint64_t gridRevision, int column)
+    {
+        m_deliveredAt = gridRevision;
+        m_deliveredColumn = column;
+    }
+    bool IsKnownDelivered(std::uint64_t gridRevision, int column) const
+    {
+        return m_deliveredAt != 0 && m_deliveredAt == gridRevision && m_deliveredColumn == column;
+    }
+
 private:
     std::vector<FilterFoldedBulk> m_bulks;
+    std::uint64_t m_deliveredAt = 0;
+    int m_deliveredColumn = -1;
 };
 
 } // namespace Orvo::UI::UIComponents

@@ -160,10 +160,11 @@ void TableContentFilterModel::UpdateAcceptedRows() const
     if (!m_acceptedRowsStale && m_acceptedRows.IsCurrent(*m_sourceModel))
         return;
     m_acceptedRowsStale = false;
+    const auto asking = m_remapping ? TableFilterRows::Asking::InOrder : TableFilterRows::Asking::AnyOrder;
     if (m_narrowedColumn && m_acceptedRows.IsCurrent(*m_sourceModel)) {
         const auto narrowed = m_conditions.find(*m_narrowedColumn);
         if (narrowed != m_conditions.end() && MapColumnToSource(narrowed->first) >= 0) {
-            m_acceptedRows.Narrow(*m_sourceModel, SourceCondition(narrowed->first, narrowed->second));
+            m_acceptedRows.Narrow(*m_sourceModel, SourceCondition(narrowed->first, narrowed->second), asking);
             return;
         }
     }
@@ -172,7 +173,7 @@ void TableContentFilterModel::UpdateAcceptedRows() const
         if (MapColumnToSource(column) >= 0)
             conditions.push_back(SourceCondition(column, entry));
     }
-    m_acceptedRows.Compute(*m_sourceModel, conditions);
+    m_acceptedRows.Compute(*m_sourceModel, conditions, asking);
 }
 
 void TableContentFilterModel::onFilterBarDataChanged(const QModelIndex& topLeft,
@@ -229,8 +230,13 @@ void TableContentFilterModel::InvalidateFiltering(std::optional<int> narrowedCol
     // The proxy's incremental re-filter announces every gap between kept rows as a removal or an
     // insertion of its own and moves its row vectors for each: quadratic in the row count, minutes
     // for a million rows. Dropping the mapping and rebuilding it in one pass is linear, and views
-    // see one layout change.
+    // see one layout change. The mapping is rebuilt here, while the rows are judged on other threads;
+    // nothing may change the cells before that judging has ended.
+    m_remapping = true;
     invalidate();
+    rowCount();
+    m_remapping = false;
+    m_acceptedRows.Join();
     emit filterChanged();
 }
 

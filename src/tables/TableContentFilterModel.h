@@ -153,6 +153,8 @@ private:
     QHash<QString, QString> m_textsOfReturningColumns;
     mutable bool m_filtering = false;
     mutable TableFilterRows m_acceptedRows;
+    // The proxy is rebuilding its mapping after the filters changed: it asks every row in order.
+    bool m_remapping = false;
     // The answers no longer follow the conditions; recomputed at the next row asked.
     mutable bool m_acceptedRowsStale = true;
     // The one column whose condition only narrowed since the answers were computed.

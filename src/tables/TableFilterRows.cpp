@@ -5,6 +5,7 @@
 #include "TablesLogging.h"
 
 #include <QSemaphore>
+#include <QThread>
 #include <QThreadPool>
 #include <algorithm>
 
@@ -64,22 +65,41 @@ template<typename Judge> void InParts(int bulkCount, Judge&& judge)
 
 } // namespace
 
-void TableFilterRows::Compute(const TableContentModel& model, const std::vector<Condition>& conditions)
+TableFilterRows::~TableFilterRows()
 {
+    Join();
+}
+
+void TableFilterRows::Compute(const TableContentModel& model, const std::vector<Condition>& conditions,
+                              Asking asking)
+{
+    Join();
     const int rows = model.rowCountSubmitted();
     const int bulks = (rows + c_bulkRows - 1) / c_bulkRows;
     m_accepted.assign(static_cast<std::size_t>(bulks), FirstRows(c_bulkRows));
     if (bulks > 0)
         m_accepted.back() = FirstRows(TableContentGrid::BulkRowCount(bulks - 1, rows));
     m_unjudgeable.assign(static_cast<std::size_t>(bulks), BulkRows());
-    for (const Condition& condition : conditions)
-        Apply(model, condition);
+    const bool stream = asking == Asking::InOrder && rows > c_rowsJudgedOnOneThread
+        && std::all_of(conditions.begin(), conditions.end(),
+                       [&](const Condition& condition) { return IsDelivered(model, condition); });
+    if (stream) {
+        Start(model, conditions);
+    } else {
+        for (const Condition& condition : conditions)
+            Apply(model, condition);
+    }
     Finish(model);
 }
 
-void TableFilterRows::Narrow(const TableContentModel& model, const Condition& condition)
+void TableFilterRows::Narrow(const TableContentModel& model, const Condition& condition, Asking asking)
 {
-    Apply(model, condition);
+    Join();
+    if (asking == Asking::InOrder && model.rowCountSubmitted() > c_rowsJudgedOnOneThread
+        && IsDelivered(model, condition))
+        Start(model, { condition });
+    else
+        Apply(model, condition);
     Finish(model);
 }
 
@@ -97,22 +117,44 @@ bool TableFilterRows::IsCurrent(const TableContentModel& model) const
 
 void TableFilterRows::Reset()
 {
+    Join();
     m_accepted.clear();
     m_unjudgeable.clear();
     m_folds.clear();
     m_computed = false;
 }
 
-void TableFilterRows::Apply(const TableContentModel& model, const Condition& condition)
+// Whether every cell of the condition's column is in the grid, so that judging needs no delivery.
+bool TableFilterRows::IsDelivered(const TableContentModel& model, const Condition& condition)
+{
+    const TableContentGrid& grid = model.Grid();
+    FilterColumnFold& fold = m_folds[condition.columnId];
+    if (fold.IsKnownDelivered(grid.Revision(), condition.sourceColumn))
+        return true;
+    const int rows = model.rowCountSubmitted();
+    const int bulks = static_cast<int>(m_accepted.size());
+    for (int bulk = 0; bulk < bulks; ++bulk) {
+        if (!grid.IsBulkFilled(bulk, condition.sourceColumn, TableContentGrid::BulkRowCount(bulk, rows)))
+            return false;
+    }
+    fold.SetDelivered(grid.Revision(), condition.sourceColumn);
+    return true;
+}
+
+TableFilterRows::Prepared TableFilterRows::Prepare(const TableContentModel& model, const Condition& condition,
+                                                   Delivery delivery)
 {
     const TableContentGrid& grid = model.Grid();
     const int rows = model.rowCountSubmitted();
     const int bulks = static_cast<int>(m_accepted.size());
     const int column = condition.sourceColumn;
-    const unsigned parts = condition.condition->FoldedParts();
-
+    Prepared prepared { condition, &m_folds[condition.columnId],
+                        std::vector<char>(static_cast<std::size_t>(bulks),
+                                          condition.condition->FoldedParts() == FilterColumnFold::NoPart) };
+    prepared.fold->Resize(bulks);
+    if (delivery == Delivery::Done)
+        return prepared;
     // On this thread, in row order: the feeder is asked for what it has not delivered yet.
-    std::vector<char> cellByCell(static_cast<std::size_t>(bulks), parts == FilterColumnFold::NoPart);
     for (int bulk = 0; bulk < bulks; ++bulk) {
         const std::size_t b = static_cast<std::size_t>(bulk);
         const BulkRows candidates = m_accepted[b] & ~m_unjudgeable[b];
@@ -131,22 +173,97 @@ void TableFilterRows::Apply(const TableContentModel& model, const Condition& con
             }
         });
         // Rows the filter does not look at may still be missing: then the bulk is judged cell by cell.
-        cellByCell[b] = cellByCell[b] || !grid.IsBulkFilled(bulk, column, bulkRows);
+        prepared.cellByCell[b] = prepared.cellByCell[b] || !grid.IsBulkFilled(bulk, column, bulkRows);
     }
-
-    FilterColumnFold& fold = m_folds[condition.columnId];
-    fold.Resize(bulks);
-    InParts(bulks, [&](int first, int end) { JudgeBulks(model, condition, fold, cellByCell, first, end); });
+    return prepared;
 }
 
-void TableFilterRows::JudgeBulks(const TableContentModel& model, const Condition& condition,
-                                 FilterColumnFold& fold, const std::vector<char>& cellByCell, int firstBulk,
+void TableFilterRows::Apply(const TableContentModel& model, const Condition& condition)
+{
+    const Prepared prepared = Prepare(model, condition, Delivery::AskFeeder);
+    InParts(static_cast<int>(m_accepted.size()),
+            [&](int first, int end) { JudgeBulks(model, prepared, first, end); });
+}
+
+void TableFilterRows::Start(const TableContentModel& model, const std::vector<Condition>& conditions)
+{
+    auto stream = std::make_unique<Stream>();
+    stream->model = &model;
+    for (const Condition& condition : conditions)
+        stream->conditions.push_back(Prepare(model, condition, Delivery::Done));
+    const int bulks = static_cast<int>(m_accepted.size());
+    stream->partCount = (bulks + c_bulksPerPart - 1) / c_bulksPerPart;
+    stream->judged = std::make_unique<std::atomic<bool>[]>(static_cast<std::size_t>(stream->partCount));
+    for (int part = 0; part < stream->partCount; ++part)
+        stream->judged[static_cast<std::size_t>(part)].store(false, std::memory_order_relaxed);
+    m_stream = std::move(stream);
+    // The asking thread is one of the judges: the pool adds the others.
+    QThreadPool* pool = QThreadPool::globalInstance();
+    Stream* running = m_stream.get();
+    const int workers = std::min(pool->maxThreadCount() - 1, running->partCount - 1);
+    for (int worker = 0; worker < workers; ++worker) {
+        // Only idle threads: a pool busy with other work must not keep the asking thread waiting.
+        const bool started = pool->tryStart([this, running]() {
+            while (JudgeNextPart(*running)) { }
+            running->workersDone.release();
+        });
+        if (!started)
+            break;
+        ++running->workers;
+    }
+}
+
+bool TableFilterRows::JudgeNextPart(Stream& stream)
+{
+    const int part = stream.nextPart.fetch_add(1, std::memory_order_relaxed);
+    if (part >= stream.partCount)
+        return false;
+    JudgePart(stream, part);
+    return true;
+}
+
+void TableFilterRows::JudgePart(Stream& stream, int part)
+{
+    const int first = part * c_bulksPerPart;
+    const int end = std::min(static_cast<int>(m_accepted.size()), first + c_bulksPerPart);
+    for (const Prepared& prepared : stream.conditions)
+        JudgeBulks(*stream.model, prepared, first, end);
+    stream.judged[static_cast<std::size_t>(part)].store(true, std::memory_order_release);
+}
+
+void TableFilterRows::AwaitBulk(int bulk)
+{
+    Stream& stream = *m_stream;
+    const int part = bulk / c_bulksPerPart;
+    while (!stream.judged[static_cast<std::size_t>(part)].load(std::memory_order_acquire)) {
+        // Rather than wait idle, judge what no one has claimed yet; then wait for the others.
+        if (!JudgeNextPart(stream))
+            QThread::yieldCurrentThread();
+    }
+    while (stream.judgedParts < stream.partCount
+           && stream.judged[static_cast<std::size_t>(stream.judgedParts)].load(std::memory_order_acquire))
+        ++stream.judgedParts;
+    stream.judgedBulks = std::min(static_cast<int>(m_accepted.size()), stream.judgedParts * c_bulksPerPart);
+    if (stream.judgedParts == stream.partCount)
+        Join();
+}
+
+void TableFilterRows::Join()
+{
+    if (!m_stream)
+        return;
+    while (JudgeNextPart(*m_stream)) { }
+    m_stream->workersDone.acquire(m_stream->workers);
+    m_stream.reset();
+}
+
+void TableFilterRows::JudgeBulks(const TableContentModel& model, const Prepared& prepared, int firstBulk,
                                  int endBulk)
 {
     const TableContentGrid& grid = model.Grid();
     const int rows = model.rowCountSubmitted();
-    const int column = condition.sourceColumn;
-    const FilterConditionBase& test = *condition.condition;
+    const int column = prepared.condition.sourceColumn;
+    const FilterConditionBase& test = *prepared.condition.condition;
     for (int bulk = firstBulk; bulk < endBulk; ++bulk) {
         const std::size_t b = static_cast<std::size_t>(bulk);
         const BulkRows candidates = m_accepted[b] & ~m_unjudgeable[b];
@@ -154,11 +271,11 @@ void TableFilterRows::JudgeBulks(const TableContentModel& model, const Condition
             continue;
         BulkRows passed;
         BulkRows unjudged;
-        if (cellByCell[b]) {
+        if (prepared.cellByCell[b]) {
             unjudged = candidates;
         } else {
             try {
-                const FilterFoldedBulk& folded = fold.Refresh(
+                const FilterFoldedBulk& folded = prepared.fold->Refresh(
                     grid, bulk, column, TableContentGrid::BulkRowCount(bulk, rows), test.FoldedParts());
                 passed = test.Narrow(folded, candidates, unjudged);
             } catch (const std::exception& error) {

@@ -2,8 +2,11 @@
 
 #include "FilterColumnFold.h"
 
+#include <QSemaphore>
 #include <QString>
+#include <atomic>
 #include <cstdint>
+#include <memory>
 #include <unordered_map>
 #include <vector>
 
@@ -17,9 +20,26 @@ class TableContentModel;
 // folded form, which is kept between filters and refolded only where the cells changed; the
 // conditions of several columns narrow one row set in turn, each looking only at the rows the
 // columns before it let through. Large tables are judged in parts on Qt's thread pool.
+//
+// A proxy rebuilding its mapping asks every row in order, and its own bookkeeping takes about as
+// long as judging the rows. With InOrder, large tables whose filtered columns are all delivered are
+// judged on the pool while the rows are being asked: Accepts answers as soon as the part holding
+// the row is judged, and judges parts itself rather than wait idle. The judging ends when the last
+// part has been asked for, or at Join.
 class TableFilterRows
 {
 public:
+    enum class Asking
+    {
+        AnyOrder,
+        InOrder,
+    };
+
+    TableFilterRows() = default;
+    TableFilterRows(const TableFilterRows&) = delete;
+    TableFilterRows& operator=(const TableFilterRows&) = delete;
+    ~TableFilterRows();
+
     struct Condition
     {
         int sourceColumn = -1;
@@ -30,9 +50,12 @@ public:
     // Judges every submitted row of model by the conditions, in their order. Cells the feeder has
     // not delivered are asked for as a row-by-row filter asks for them: the whole column at once,
     // when the first row that needs the column is reached.
-    void Compute(const TableContentModel& model, const std::vector<Condition>& conditions);
+    void Compute(const TableContentModel& model, const std::vector<Condition>& conditions,
+                 Asking asking = Asking::AnyOrder);
     // Judges again, by a condition narrower than the one it replaces, only the rows that pass now.
-    void Narrow(const TableContentModel& model, const Condition& condition);
+    void Narrow(const TableContentModel& model, const Condition& condition, Asking asking = Asking::AnyOrder);
+    // Finishes judging started for rows asked in order; nothing when all is judged.
+    void Join();
     // Whether the answers were computed from the model's current cells and rows, given the revision
     // of its grid and its number of submitted rows.
     bool IsCurrent(std::uint64_t gridRevision, int rowCount) const
@@ -42,12 +65,14 @@ public:
     bool IsCurrent(const TableContentModel& model) const;
     // Whether the submitted row passes; rows that could not be judged (a feeder failing to deliver
     // them) pass rather than vanish silently.
-    bool Accepts(int row) const
+    bool Accepts(int row)
     {
         const GridContentIndex index = GridContentIndex::FromRow(row);
         if (row < 0 || index.bulk >= static_cast<int>(m_accepted.size()))
             return true;
-        return m_accepted[static_cast<std::size_t>(index.bulk)].test(static_cast<std::size_t>(index.offset));
+        if (m_stream && index.bulk >= m_stream->judgedBulks)
+            AwaitBulk(index.bulk);
+        return m_accepted[static_cast<std::size_t>(index.bulk)][static_cast<std::size_t>(index.offset)];
     }
     // Forgets the answers and every folded column (another model).
     void Reset();
@@ -55,15 +80,51 @@ public:
     // Tables with more rows are judged on several threads.
     static constexpr int c_rowsJudgedOnOneThread = 100'000;
 
+    // Bulks judged together by one thread while rows are asked in order.
+    static constexpr int c_bulksPerPart = 32;
+
 private:
+    // A condition ready to be judged bulk by bulk: its column is delivered as far as it will be.
+    struct Prepared
+    {
+        Condition condition;
+        FilterColumnFold* fold = nullptr;
+        std::vector<char> cellByCell; // by bulk: judged cell by cell, not from the fold
+    };
+    // The judging of parts while rows are asked in order.
+    struct Stream
+    {
+        const TableContentModel* model = nullptr;
+        std::vector<Prepared> conditions;
+        int partCount = 0;
+        std::atomic<int> nextPart { 0 };
+        std::unique_ptr<std::atomic<bool>[]> judged; // by part
+        QSemaphore workersDone;
+        int workers = 0;
+        int judgedParts = 0; // asking thread only: parts 0 .. judgedParts - 1 are judged
+        int judgedBulks = 0; // the same in bulks
+    };
+
+    enum class Delivery
+    {
+        AskFeeder, // cells the rows still shown need are asked for first
+        Done, // every cell of the column is in the grid
+    };
+    Prepared Prepare(const TableContentModel& model, const Condition& condition, Delivery delivery);
+    bool IsDelivered(const TableContentModel& model, const Condition& condition);
     void Apply(const TableContentModel& model, const Condition& condition);
-    void JudgeBulks(const TableContentModel& model, const Condition& condition, FilterColumnFold& fold,
-                    const std::vector<char>& cellByCell, int firstBulk, int endBulk);
+    void Start(const TableContentModel& model, const std::vector<Condition>& conditions);
+    void JudgeBulks(const TableContentModel& model, const Prepared& prepared, int firstBulk, int endBulk);
+    void JudgePart(Stream& stream, int part);
+    // Claims and judges the next part not yet claimed; false when every part was claimed.
+    bool JudgeNextPart(Stream& stream);
+    void AwaitBulk(int bulk);
     void Finish(const TableContentModel& model);
 
     std::vector<BulkRows> m_accepted;
     std::vector<BulkRows> m_unjudgeable;
     std::unordered_map<QString, FilterColumnFold> m_folds; // by column id
+    std::unique_ptr<Stream> m_stream;
     bool m_computed = false;
     std::uint64_t m_revision = 0;
     int m_rowCount = -1;

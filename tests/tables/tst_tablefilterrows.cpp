@@ -9,8 +9,11 @@
 #include <QAbstractItemModelTester>
 #include <QRandomGenerator>
 #include <QTest>
+#include <algorithm>
 #include <cmath>
 #include <limits>
+#include <numeric>
+#include <random>
 
 using namespace Orvo::UI::UIComponents;
 using namespace Orvo::UI::UIComponents::TestData;
@@ -320,15 +323,103 @@ private slots:
                  std::vector<QString> { QStringLiteral("c%1").arg(int(TableValueType::String)) });
     }
 
+    void shouldJudgeLargeTablesInParts_data()
+    {
+        QTest::addColumn<QStringList>("realFilters");
+        QTest::addColumn<QString>("textFilter");
+        QTest::newRow("one range") << QStringList { "[-50;50)" } << QString();
+        QTest::newRow("a range and a text") << QStringList { "<-0.001;100>" } << "a";
+        QTest::newRow("narrowed step by step") << QStringList { ">-100", ">-10", ">0", ">=12.5" } << "k";
+        QTest::newRow("nothing passes") << QStringList { "<-1e300" } << QString();
+    }
+
     void shouldJudgeLargeTablesInParts()
     {
-        // More rows than one thread judges: the parts must meet without losing or doubling a row.
+        // More rows than one thread judges: the parts must meet without losing or doubling a row,
+        // whether the filter model judged them while its proxy asked or before.
+        QFETCH(QStringList, realFilters);
+        QFETCH(QString, textFilter);
         const int rows
             = TableFilterRows::c_rowsJudgedOnOneThread + 2 * GridContentIndex::c_rowsCountBulk + 17;
         GeneratedTable table(rows, 5);
-        const int column = ColumnOf(TableValueType::Real);
-        table.SetFilter(column, QStringLiteral("[-50;50)"));
-        QCOMPARE(table.Shown(), table.PassingCellByCell({ { column, "[-50;50)" } }));
+        const int realColumn = ColumnOf(TableValueType::Real);
+        const int textColumn = ColumnOf(TableValueType::String);
+        if (!textFilter.isEmpty())
+            table.SetFilter(textColumn, textFilter);
+        for (const QString& filter : realFilters) {
+            table.SetFilter(realColumn, filter);
+            QCOMPARE(table.Shown(),
+                     table.PassingCellByCell({ { realColumn, filter }, { textColumn, textFilter } }));
+        }
+    }
+
+    void shouldAnswerRowsAskedInAnyOrderWhileJudging_data()
+    {
+        QTest::addColumn<QString>("order");
+        QTest::newRow("first to last") << "forward";
+        QTest::newRow("last to first") << "backward";
+        QTest::newRow("at random") << "random";
+        QTest::newRow("none, then joined") << "none";
+    }
+
+    void shouldAnswerRowsAskedInAnyOrderWhileJudging()
+    {
+        // Given a large table with its columns delivered
+        QFETCH(QString, order);
+        const int rows = TableFilterRows::c_rowsJudgedOnOneThread
+            + 3 * TableFilterRows::c_bulksPerPart * GridContentIndex::c_rowsCountBulk + 41;
+        GeneratedTable table(rows, 8);
+        const int realColumn = ColumnOf(TableValueType::Real);
+        const int textColumn = ColumnOf(TableValueType::String);
+        for (int column : { realColumn, textColumn })
+            table.model.GetFilledCell(0, column, TableContentModel::ContentRequest::WholeColumn);
+        const auto range = FilterConditionFactory::CreateFilterCondition(QStringLiteral("[0;50]"));
+        const auto text = FilterConditionFactory::CreateFilterCondition(QStringLiteral("al"));
+        const std::vector<TableFilterRows::Condition> conditions {
+            { realColumn, QStringLiteral("real"), range.get() },
+            { textColumn, QStringLiteral("text"), text.get() }
+        };
+        TableFilterRows judgedAtOnce;
+        judgedAtOnce.Compute(table.model, conditions);
+
+        // When the rows are judged while they are asked
+        TableFilterRows judgedWhileAsked;
+        judgedWhileAsked.Compute(table.model, conditions, TableFilterRows::Asking::InOrder);
+        std::vector<int> asked(static_cast<std::size_t>(rows));
+        std::iota(asked.begin(), asked.end(), 0);
+        if (order == "backward")
+            std::reverse(asked.begin(), asked.end());
+        else if (order == "random")
+            std::shuffle(asked.begin(), asked.end(), std::mt19937(4));
+        else if (order == "none")
+            asked.clear();
+        for (int row : asked)
+            QCOMPARE(judgedWhileAsked.Accepts(row), judgedAtOnce.Accepts(row));
+        judgedWhileAsked.Join();
+
+        // Then every answer is the one judged at once
+        for (int row = 0; row < rows; ++row) {
+            if (judgedWhileAsked.Accepts(row) != judgedAtOnce.Accepts(row))
+                QFAIL(qPrintable(QStringLiteral("row %1 differs").arg(row)));
+        }
+        QVERIFY(judgedWhileAsked.IsCurrent(table.model));
+    }
+
+    void shouldJudgeAtOnceWhatIsNotDeliveredYet()
+    {
+        // Given a large table no one has looked at, and one that is filtered while the proxy asks
+        const int rows = TableFilterRows::c_rowsJudgedOnOneThread + 250;
+        GeneratedTable table(rows, 13);
+        table.model.SetRowCount(rows);
+        table.feeder.requests.clear();
+        const int textColumn = ColumnOf(TableValueType::String);
+
+        // When a filter is set on a column whose cells are not delivered
+        table.SetFilter(textColumn, QStringLiteral("k"));
+
+        // Then the column is asked for once, on this thread, and the rows judged as cell by cell
+        QCOMPARE(table.feeder.requests.size(), std::size_t(1));
+        QCOMPARE(table.Shown(), table.PassingCellByCell({ { textColumn, "k" } }));
     }
 
     void shouldScanLikeAPlainSearch_data()
