@@ -4,7 +4,6 @@
 #include "TableContentModel.h"
 #include "TablesLogging.h"
 
-#include <QSemaphore>
 #include <QThread>
 #include <QThreadPool>
 #include <algorithm>
@@ -34,36 +33,19 @@ template<typename Visit> void ForEachRow(const BulkRows& rows, Visit&& visit)
     }
 }
 
-// Runs judge(firstBulk, endBulk) over all bulks, in parts on the thread pool for large tables.
-template<typename Judge> void InParts(int bulkCount, Judge&& judge)
-{
-    QThreadPool* pool = QThreadPool::globalInstance();
-    const int parts = bulkCount * c_bulkRows > TableFilterRows::c_rowsJudgedOnOneThread
-        ? std::max(1, std::min(pool->maxThreadCount(), bulkCount))
-        : 1;
-    if (parts == 1) {
-        judge(0, bulkCount);
-        return;
-    }
-    QSemaphore done;
-    const int perPart = (bulkCount + parts - 1) / parts;
-    int started = 0;
-    for (int part = 1; part < parts; ++part) {
-        const int first = part * perPart;
-        const int end = std::min(bulkCount, first + perPart);
-        if (first >= end)
-            continue;
-        ++started;
-        pool->start([&judge, &done, first, end]() {
-            judge(first, end);
-            done.release();
-        });
-    }
-    judge(0, std::min(bulkCount, perPart));
-    done.acquire(started);
-}
+std::atomic<int> g_rowsJudgedOnOneThread { 100'000 };
 
 } // namespace
+
+int TableFilterRows::RowsJudgedOnOneThread()
+{
+    return g_rowsJudgedOnOneThread.load(std::memory_order_relaxed);
+}
+
+void TableFilterRows::SetRowsJudgedOnOneThread(int rows)
+{
+    g_rowsJudgedOnOneThread.store(std::max(0, rows), std::memory_order_relaxed);
+}
 
 TableFilterRows::~TableFilterRows()
 {
@@ -80,11 +62,14 @@ void TableFilterRows::Compute(const TableContentModel& model, const std::vector<
     if (bulks > 0)
         m_accepted.back() = FirstRows(TableContentGrid::BulkRowCount(bulks - 1, rows));
     m_unjudgeable.assign(static_cast<std::size_t>(bulks), BulkRows());
-    const bool stream = asking == Asking::InOrder && rows > c_rowsJudgedOnOneThread
+    const bool stream = asking == Asking::InOrder && rows > RowsJudgedOnOneThread()
         && std::all_of(conditions.begin(), conditions.end(),
                        [&](const Condition& condition) { return IsDelivered(model, condition); });
     if (stream) {
-        Start(model, conditions);
+        std::vector<Prepared> prepared;
+        for (const Condition& condition : conditions)
+            prepared.push_back(Prepare(model, condition, Delivery::Done));
+        Start(model, std::move(prepared));
     } else {
         for (const Condition& condition : conditions)
             Apply(model, condition);
@@ -95,9 +80,9 @@ void TableFilterRows::Compute(const TableContentModel& model, const std::vector<
 void TableFilterRows::Narrow(const TableContentModel& model, const Condition& condition, Asking asking)
 {
     Join();
-    if (asking == Asking::InOrder && model.rowCountSubmitted() > c_rowsJudgedOnOneThread
+    if (asking == Asking::InOrder && model.rowCountSubmitted() > RowsJudgedOnOneThread()
         && IsDelivered(model, condition))
-        Start(model, { condition });
+        Start(model, { Prepare(model, condition, Delivery::Done) });
     else
         Apply(model, condition);
     Finish(model);
@@ -180,36 +165,44 @@ TableFilterRows::Prepared TableFilterRows::Prepare(const TableContentModel& mode
 
 void TableFilterRows::Apply(const TableContentModel& model, const Condition& condition)
 {
-    const Prepared prepared = Prepare(model, condition, Delivery::AskFeeder);
-    InParts(static_cast<int>(m_accepted.size()),
-            [&](int first, int end) { JudgeBulks(model, prepared, first, end); });
+    Prepared prepared = Prepare(model, condition, Delivery::AskFeeder);
+    if (model.rowCountSubmitted() <= RowsJudgedOnOneThread()) {
+        JudgeBulks(model, prepared, 0, static_cast<int>(m_accepted.size()));
+        return;
+    }
+    Start(model, { std::move(prepared) });
+    Join();
 }
 
-void TableFilterRows::Start(const TableContentModel& model, const std::vector<Condition>& conditions)
+void TableFilterRows::Start(const TableContentModel& model, std::vector<Prepared> conditions)
 {
     auto stream = std::make_unique<Stream>();
     stream->model = &model;
-    for (const Condition& condition : conditions)
-        stream->conditions.push_back(Prepare(model, condition, Delivery::Done));
+    stream->conditions = std::move(conditions);
     const int bulks = static_cast<int>(m_accepted.size());
     stream->partCount = (bulks + c_bulksPerPart - 1) / c_bulksPerPart;
     stream->judged = std::make_unique<std::atomic<bool>[]>(static_cast<std::size_t>(stream->partCount));
     for (int part = 0; part < stream->partCount; ++part)
         stream->judged[static_cast<std::size_t>(part)].store(false, std::memory_order_relaxed);
     m_stream = std::move(stream);
-    // The asking thread is one of the judges: the pool adds the others.
-    QThreadPool* pool = QThreadPool::globalInstance();
     Stream* running = m_stream.get();
+    running->published.store(true, std::memory_order_release);
+    // The asking thread is one of the judges: the pool adds the others, from its idle threads only,
+    // so that a pool busy with other work never keeps the asking thread waiting.
+    QThreadPool* pool = QThreadPool::globalInstance();
     const int workers = std::min(pool->maxThreadCount() - 1, running->partCount - 1);
     for (int worker = 0; worker < workers; ++worker) {
-        // Only idle threads: a pool busy with other work must not keep the asking thread waiting.
+        running->workersRunning.fetch_add(1, std::memory_order_relaxed);
         const bool started = pool->tryStart([this, running]() {
-            while (JudgeNextPart(*running)) { }
-            running->workersDone.release();
+            if (running->published.load(std::memory_order_acquire)) {
+                while (JudgeNextPart(*running)) { }
+            }
+            running->workersRunning.fetch_sub(1, std::memory_order_release);
         });
-        if (!started)
+        if (!started) {
+            running->workersRunning.fetch_sub(1, std::memory_order_relaxed);
             break;
-        ++running->workers;
+        }
     }
 }
 
@@ -253,7 +246,9 @@ void TableFilterRows::Join()
     if (!m_stream)
         return;
     while (JudgeNextPart(*m_stream)) { }
-    m_stream->workersDone.acquire(m_stream->workers);
+    // The others are finishing their last part.
+    while (m_stream->workersRunning.load(std::memory_order_acquire) != 0)
+        QThread::yieldCurrentThread();
     m_stream.reset();
 }
 

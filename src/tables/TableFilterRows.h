@@ -2,7 +2,6 @@
 
 #include "FilterColumnFold.h"
 
-#include <QSemaphore>
 #include <QString>
 #include <atomic>
 #include <cstdint>
@@ -77,8 +76,10 @@ public:
     // Forgets the answers and every folded column (another model).
     void Reset();
 
-    // Tables with more rows are judged on several threads.
-    static constexpr int c_rowsJudgedOnOneThread = 100'000;
+    // Tables with more rows are judged on several threads: 100,000 unless changed (tests lower it,
+    // so that small tables take the paths large ones take).
+    static int RowsJudgedOnOneThread();
+    static void SetRowsJudgedOnOneThread(int rows);
 
     // Bulks judged together by one thread while rows are asked in order.
     static constexpr int c_bulksPerPart = 32;
@@ -99,8 +100,10 @@ private:
         int partCount = 0;
         std::atomic<int> nextPart { 0 };
         std::unique_ptr<std::atomic<bool>[]> judged; // by part
-        QSemaphore workersDone;
-        int workers = 0;
+        // Everything above is set before the pool's threads read it: published after it, acquired
+        // first by each of them (the pool's own hand-over is invisible to race checkers).
+        std::atomic<bool> published { false };
+        std::atomic<int> workersRunning { 0 };
         int judgedParts = 0; // asking thread only: parts 0 .. judgedParts - 1 are judged
         int judgedBulks = 0; // the same in bulks
     };
@@ -113,7 +116,7 @@ private:
     Prepared Prepare(const TableContentModel& model, const Condition& condition, Delivery delivery);
     bool IsDelivered(const TableContentModel& model, const Condition& condition);
     void Apply(const TableContentModel& model, const Condition& condition);
-    void Start(const TableContentModel& model, const std::vector<Condition>& conditions);
+    void Start(const TableContentModel& model, std::vector<Prepared> conditions);
     void JudgeBulks(const TableContentModel& model, const Prepared& prepared, int firstBulk, int endBulk);
     void JudgePart(Stream& stream, int part);
     // Claims and judges the next part not yet claimed; false when every part was claimed.
