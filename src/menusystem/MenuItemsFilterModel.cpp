@@ -3,6 +3,8 @@
 #include "MenuItemsModel.h"
 #include "common/SearchText.h"
 
+#include <QRegularExpression>
+
 namespace Orvo::UI::UIComponents {
 
 MenuItemsFilterModel::MenuItemsFilterModel(QObject* parent)
@@ -18,10 +20,11 @@ MenuItemsFilterModel::MenuItemsFilterModel(QObject* parent)
 
 const QStringList& MenuItemsFilterModel::SearchWords() const
 {
-    // setFilterFixedString stores its text escaped; every escape is a backslash before the
-    // character itself, except NUL, which the words never hold.
     const QString pattern = filterRegularExpression().pattern();
     if (pattern != m_wordsPattern) {
+        // setFilterFixedString stores its text escaped: every escape is a backslash before the
+        // character itself, except NUL, which the words never hold. A pattern that is not the
+        // escaped form of its own text was set as a regular expression and is matched as one.
         QString text;
         text.reserve(pattern.size());
         for (qsizetype i = 0; i < pattern.size(); ++i) {
@@ -30,7 +33,8 @@ const QStringList& MenuItemsFilterModel::SearchWords() const
             text += pattern.at(i);
         }
         m_wordsPattern = pattern;
-        m_words = SearchText::Words(text);
+        m_isRegularExpression = QRegularExpression::escape(text) != pattern;
+        m_words = m_isRegularExpression ? QStringList() : SearchText::Words(text);
     }
     return m_words;
 }
@@ -52,11 +56,13 @@ bool MenuItemsFilterModel::filterAcceptsRow(int sourceRow, const QModelIndex& so
         return false;
     const QModelIndex item = sourceModel()->index(sourceRow, 0);
     const QStringList& words = SearchWords();
-    if (!words.isEmpty()) {
+    if (!words.isEmpty() || m_isRegularExpression) {
         if (item.data(MenuItemsModel::ItemTypeRole).toInt() != MenuItemsModel::CommandItem)
             return false;
         const QString text = item.data(MenuItemsModel::TextRole).toString() + QLatin1Char(' ')
             + item.data(MenuItemsModel::PathRole).toString();
+        if (m_isRegularExpression)
+            return filterRegularExpression().match(text).hasMatch();
         return SearchText::MatchQuality(SearchText::Folded(text), words) > 0;
     }
     if (!IsSeparator(sourceRow))

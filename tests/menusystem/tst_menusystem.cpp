@@ -179,22 +179,31 @@ private slots:
     void searchShouldFindCommandsInEveryMenu_data()
     {
         QTest::addColumn<QString>("search");
+        QTest::addColumn<bool>("regularExpression");
         QTest::addColumn<QStringList>("expected");
-        QTest::newRow("by name") << "move" << QStringList { "Move" };
-        QTest::newRow("by menu path") << "supports" << QStringList { "New support" };
-        QTest::newRow("words in any order") << "member new" << QStringList { "New member" };
-        QTest::newRow("nothing") << "girder" << QStringList {};
+        QTest::newRow("by name") << "move" << false << QStringList { "Move" };
+        QTest::newRow("by menu path") << "supports" << false << QStringList { "New support" };
+        QTest::newRow("words in any order") << "member new" << false << QStringList { "New member" };
+        QTest::newRow("nothing") << "girder" << false << QStringList {};
+        QTest::newRow("characters a pattern escapes") << "new (" << false << QStringList {};
+        // A host's own pattern keeps its meaning: "\\b" is a word start, not the letter b.
+        QTest::newRow("a regular expression") << "^New \\bm" << true << QStringList { "New member" };
+        QTest::newRow("any character in a pattern") << "^Mo.e\\b" << true << QStringList { "Move" };
     }
 
     void searchShouldFindCommandsInEveryMenu()
     {
         QFETCH(QString, search);
+        QFETCH(bool, regularExpression);
         QFETCH(QStringList, expected);
         MenuSystem menus;
         MenuItemsFilterModel found;
         QAbstractItemModelTester tester(&found, QAbstractItemModelTester::FailureReportingMode::QtTest);
         found.setSourceModel(menus.allCommands());
-        found.setFilterFixedString(search);
+        if (regularExpression)
+            found.setFilterRegularExpression(search);
+        else
+            found.setFilterFixedString(search);
         QCOMPARE(Texts(found), expected);
     }
 
