@@ -45,6 +45,17 @@ DemoOptions DemoOptions::Parse(const QStringList& arguments)
             } else {
                 options.modelSize = value;
             }
+        } else if (argument == QLatin1String("--table-rows")) {
+            QString rows;
+            takeValue(rows);
+            bool ok = false;
+            const int value = rows.toInt(&ok);
+            if (!ok || value < 1 || value > 5'000'000) {
+                options.valid = false;
+                options.error = QStringLiteral("--table-rows takes a number of rows from 1 to 5000000");
+            } else {
+                options.tableRows = value;
+            }
         } else if (argument == QLatin1String("--window-size")) {
             // WIDTHxHEIGHT, to look at the shell at a narrow or a wide window.
             QString size;

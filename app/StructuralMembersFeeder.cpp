@@ -20,6 +20,8 @@ const QStringList c_sections {
 const QStringList c_materials { "S235", "S355", "S460", "C30/37", "GL24h" };
 const QStringList c_yesNo { "Yes", "No" };
 
+int g_generatedMemberCount = StructuralMembersFeeder::c_defaultMemberCount;
+
 // A cheap, repeatable pseudo-random number per member and column.
 quint32 Hash(int member, int salt)
 {
@@ -58,8 +60,14 @@ TableCellContent Named(const QStringList& names, int index)
 
 } // namespace
 
+void StructuralMembersFeeder::SetGeneratedMemberCount(int count)
+{
+    g_generatedMemberCount = std::max(1, count);
+}
+
 StructuralMembersFeeder::StructuralMembersFeeder(QObject* parent)
     : QObject(parent)
+    , m_generatedMembers(g_generatedMemberCount)
 {
     m_definitions = {
         { Column("name", "UI_DEMO_MEMBER_NAME", TableValueType::String, 96, true), true },
@@ -68,7 +76,8 @@ StructuralMembersFeeder::StructuralMembersFeeder(QObject* parent)
         { Column("material", "UI_DEMO_MEMBER_MATERIAL", TableValueType::List, 96, true), true },
         { Column("length", "UI_DEMO_MEMBER_LENGTH", TableValueType::Real, 96, false, true, "m"), true },
         { Column("count", "UI_DEMO_MEMBER_COUNT", TableValueType::Integer, 64), true },
-        { Column("rotation", "UI_DEMO_MEMBER_ROTATION", TableValueType::Real, 96, false, true, "\u00B0"), true },
+        { Column("rotation", "UI_DEMO_MEMBER_ROTATION", TableValueType::Real, 96, false, true, "\u00B0"),
+          true },
         { Column("fixed", "UI_DEMO_MEMBER_FIXED", TableValueType::Bool, 64), true },
         { Column("colour", "UI_DEMO_MEMBER_COLOUR", TableValueType::Color, 128), true },
         { Column("utilisation", "UI_DEMO_MEMBER_UTILISATION", TableValueType::Real, 96, false, false), true },
@@ -207,7 +216,7 @@ TableCellContent StructuralMembersFeeder::CellOf(int member, const QString& colu
 
 TableCellContent StructuralMembersFeeder::GeneratedCell(int member, const QString& columnId) const
 {
-    const bool added = member >= c_memberCount;
+    const bool added = member >= m_generatedMembers;
     TableCellContent cell;
     cell.editable = true;
     if (columnId == QLatin1String("name")) {

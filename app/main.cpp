@@ -89,13 +89,16 @@ int main(int argc, char** argv)
     if (!options.valid) {
         std::fprintf(
             stderr,
-            "%s\nUsage: QtComponentsDemo [--page NAME] [--model-size MEMBERS] [--renderer software|opengl] "
+            "%s\nUsage: QtComponentsDemo [--page NAME] [--model-size MEMBERS] [--table-rows ROWS] "
+            "[--renderer software|opengl] "
             "[--hold-marking-menu] [--run-command new-node|new-member|move] [--window-size WIDTHxHEIGHT] "
             "[--screenshot FILE [--delay MS]]\n",
             qPrintable(options.error));
         return 2;
     }
 
+    if (options.tableRows > 0)
+        StructuralMembersFeeder::SetGeneratedMemberCount(options.tableRows);
     const bool fromBuildTree = RunsFromBuildTree();
     auto services = Orvo::Kernel::Framework::HostApplication::Start(Orvo::Kernel::Directories::ToPath(
         fromBuildTree ? QGuiApplication::applicationDirPath() : FromExecutable(QTC_INSTALLED_DATA_DIR)));

@@ -1544,8 +1544,8 @@
         <translation>Table</translation>
     </message>
     <message id="UI_DEMO_TABLES_GENERATED">
-        <source>100,000 generated members</source>
-        <translation>100,000 generated members</translation>
+        <source>Generated members</source>
+        <translation>Generated members</translation>
     </message>
     <message id="UI_DEMO_TABLES_MODEL_HINT">
         <source>The tables of the structural model, one per kind of object, in tabs by workstation (the model, its loads): open more with the + button, drag tabs to reorder them, Ctrl+PageUp and Ctrl+PageDown move between them. Every edit, paste, multi-edit and new row is one step of the undo history (Ctrl+Z, Ctrl+Y); the selected rows show in the properties panel, and an edit there shows here.</source>

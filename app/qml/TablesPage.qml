@@ -9,7 +9,8 @@ import Demo
 
 // The host's table panels over the one structural model: the input tables of every kind of
 // object beside the properties panel (the selected rows show there, and an edit in either shows
-// in the other), the results tables of the last analysis, and 100,000 generated members fed by
+// in the other), the results tables of the last analysis, and generated members (100,000 unless
+// --table-rows says otherwise) fed by
 // the demo's own controller. A self-contained page: everything it shows comes from the host.
 Item {
     id: page
