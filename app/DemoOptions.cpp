@@ -13,6 +13,20 @@ DemoOptions DemoOptions::Parse(const QStringList& arguments)
             }
             target = arguments.at(++i);
         };
+        // A count from 1 to 5,000,000; what, for the message when it is not one.
+        auto takeCount = [&](int& target, const char* what) {
+            QString text;
+            takeValue(text);
+            bool ok = false;
+            const int value = text.toInt(&ok);
+            if (!ok || value < 1 || value > 5'000'000) {
+                options.valid = false;
+                options.error = QStringLiteral("%1 takes a number of %2 from 1 to 5000000")
+                                    .arg(argument, QLatin1String(what));
+            } else {
+                target = value;
+            }
+        };
         if (argument == QLatin1String("--screenshot")) {
             takeValue(options.screenshotFile);
         } else if (argument == QLatin1String("--page")) {
@@ -35,27 +49,9 @@ DemoOptions DemoOptions::Parse(const QStringList& arguments)
         } else if (argument == QLatin1String("--hold-marking-menu")) {
             options.holdMarkingMenu = true;
         } else if (argument == QLatin1String("--model-size")) {
-            QString size;
-            takeValue(size);
-            bool ok = false;
-            const int value = size.toInt(&ok);
-            if (!ok || value < 1 || value > 5'000'000) {
-                options.valid = false;
-                options.error = QStringLiteral("--model-size takes a number of members from 1 to 5000000");
-            } else {
-                options.modelSize = value;
-            }
+            takeCount(options.modelSize, "members");
         } else if (argument == QLatin1String("--table-rows")) {
-            QString rows;
-            takeValue(rows);
-            bool ok = false;
-            const int value = rows.toInt(&ok);
-            if (!ok || value < 1 || value > 5'000'000) {
-                options.valid = false;
-                options.error = QStringLiteral("--table-rows takes a number of rows from 1 to 5000000");
-            } else {
-                options.tableRows = value;
-            }
+            takeCount(options.tableRows, "rows");
         } else if (argument == QLatin1String("--window-size")) {
             // WIDTHxHEIGHT, to look at the shell at a narrow or a wide window.
             QString size;

@@ -269,37 +269,10 @@ std::vector<char> RowsContaining(int rows, const QString& text)
     return answers;
 }
 
-void ProxyFloor_Refilter(benchmark::State& state)
+// Alternates the proxy between two known sets of answers, as RunFilters alternates filter texts.
+void RunProxyFloor(benchmark::State& state, FedTable& table, const std::vector<char>& first,
+                   const std::vector<char>& second)
 {
-    FedTable& table = TextTable(Rows(state));
-    const std::vector<char> ka = RowsContaining(Rows(state), QStringLiteral("ka"));
-    const std::vector<char> mi = RowsContaining(Rows(state), QStringLiteral("mi"));
-    KnownAnswerProxy proxy;
-    proxy.setDynamicSortFilter(false);
-    proxy.setSourceModel(&table.model);
-    proxy.SetAnswers(&mi);
-    proxy.rowCount();
-    bool flip = false;
-    for (auto _ : state) {
-        proxy.SetAnswers(flip ? &mi : &ka);
-        benchmark::DoNotOptimize(proxy.rowCount());
-        flip = !flip;
-    }
-    state.counters["rows shown"] = proxy.rowCount();
-}
-
-// The same floor for the interval filter, whose ranges let about half of the rows through.
-void ProxyFloor_IntervalRefilter(benchmark::State& state)
-{
-    FedTable& table = RealTable(Rows(state));
-    const auto rowsWithin = [&](double lower, double upper) {
-        std::vector<char> answers(static_cast<std::size_t>(Rows(state)));
-        for (std::size_t row = 0; row < answers.size(); ++row)
-            answers[row] = Reals()[row] >= lower && Reals()[row] < upper;
-        return answers;
-    };
-    const std::vector<char> first = rowsWithin(100, 600);
-    const std::vector<char> second = rowsWithin(200, 700);
     KnownAnswerProxy proxy;
     proxy.setDynamicSortFilter(false);
     proxy.setSourceModel(&table.model);
@@ -312,6 +285,24 @@ void ProxyFloor_IntervalRefilter(benchmark::State& state)
         flip = !flip;
     }
     state.counters["rows shown"] = proxy.rowCount();
+}
+
+void ProxyFloor_Refilter(benchmark::State& state)
+{
+    RunProxyFloor(state, TextTable(Rows(state)), RowsContaining(Rows(state), QStringLiteral("ka")),
+                  RowsContaining(Rows(state), QStringLiteral("mi")));
+}
+
+// The same floor for the interval filter, whose ranges let about half of the rows through.
+void ProxyFloor_IntervalRefilter(benchmark::State& state)
+{
+    const auto rowsWithin = [&](double lower, double upper) {
+        std::vector<char> answers(static_cast<std::size_t>(Rows(state)));
+        for (std::size_t row = 0; row < answers.size(); ++row)
+            answers[row] = Reals()[row] >= lower && Reals()[row] < upper;
+        return answers;
+    };
+    RunProxyFloor(state, RealTable(Rows(state)), rowsWithin(100, 600), rowsWithin(200, 700));
 }
 
 void ContentsFilter_Refilter(benchmark::State& state)
