@@ -99,6 +99,7 @@ Viewport::~Viewport()
     // gone: the engine's resources leave in a job of their own.
     std::function<void()> release = TakeResources();
     m_imageNode = nullptr;
+    m_viewportId = -1;
     if (m_renderingJobs && m_renderingJobs->IsThisThread())
         release();
     else if (window())
@@ -107,8 +108,7 @@ Viewport::~Viewport()
 
 int Viewport::viewportId() const
 {
-    const Graphic::RenderTarget* target = GetRenderTarget();
-    return target ? target->GetId() : -1;
+    return m_viewportId;
 }
 
 bool Viewport::displaySelectingRect() const
@@ -198,6 +198,8 @@ void Viewport::Initialize()
     m_textureSized = false;
     m_shownTexture = 0;
     InteractiveViewport::Initialize(quintptr(handle), true);
+    const Graphic::RenderTarget* target = GetRenderTarget();
+    m_viewportId = target ? target->GetId() : -1;
     EmitOnItemThread(&Viewport::viewportIdChanged);
     ApplySize(boundingRect());
 }
@@ -206,6 +208,7 @@ void Viewport::Invalidate()
 {
     InteractiveViewport::Invalidate();
     m_imageNode = nullptr;
+    m_viewportId = -1;
     m_shownTexture = 0;
     EmitOnItemThread(&Viewport::viewportIdChanged);
     // A view still on screen gets its resources back with its next frame.

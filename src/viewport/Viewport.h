@@ -96,6 +96,9 @@ private:
     bool m_textureSized = false;
     // Set on the render thread, read on the GUI thread when the release is decided.
     std::atomic<QSGImageNode*> m_imageNode { nullptr };
+    // The render target's id, set on the render thread as the target comes and goes, read on the
+    // GUI thread by bindings at any time: the target itself is not the GUI thread's to look at.
+    std::atomic<int> m_viewportId { -1 };
     QTimer m_redrawTimer;
     bool m_displaySelectingRect = false;
     std::unique_ptr<UiJobs> m_uiJobs;
