@@ -73,6 +73,7 @@ void TableContentFilterModel::SetSourceModel(TableContentModel* model)
     if (m_sourceModel)
         disconnect(m_sourceModel, nullptr, this, nullptr);
     m_sourceModel = model;
+    m_source = model;
     m_acceptedRows.Reset();
     m_acceptedRowsStale = true;
     // Connected before the proxy connects itself: when columns move, the conditions must follow
@@ -80,6 +81,7 @@ void TableContentFilterModel::SetSourceModel(TableContentModel* model)
     // So must the filter texts of columns that the source is about to remove, which the proxy drops
     // as soon as it hears of the removal.
     if (model) {
+        connect(model, &QObject::destroyed, this, [this]() { m_source = nullptr; });
         connect(model, &QAbstractItemModel::columnsMoved, this, &TableContentFilterModel::onColumnsMoved);
         connect(model, &QAbstractItemModel::columnsAboutToBeRemoved, this,
                 &TableContentFilterModel::onColumnsAboutToBeRemoved);
@@ -126,15 +128,16 @@ void TableContentFilterModel::setFilterBarModel(FilterBarModel* model)
 
 bool TableContentFilterModel::filterAcceptsRow(int sourceRow, const QModelIndex& sourceParent) const
 {
-    if (m_conditions.empty() || sourceParent.isValid())
-        return true;
-    const TableContentModel* source = m_sourceModel.data();
-    if (!source || sourceRow == source->newRowIndex())
-        return true;
     // The proxy asks this for every row: while the answers are current, a look-up is all it costs.
-    if (!m_acceptedRowsStale
-        && m_acceptedRows.IsCurrent(source->Grid().Revision(), source->rowCountSubmitted()))
-        return m_acceptedRows.Accepts(sourceRow);
+    // Only what this object holds and one step into the source are read on that path; the new row
+    // is never among the answered ones.
+    const TableContentModel* source = m_source;
+    if (source && m_acceptedRows.IsAnswered(sourceRow) && !m_acceptedRowsStale
+        && m_acceptedRows.IsCurrent(source->Grid().Revision(), source->rowCountSubmitted())
+        && !sourceParent.isValid())
+        return m_acceptedRows.Answer(sourceRow);
+    if (m_conditions.empty() || sourceParent.isValid() || !source || sourceRow == source->newRowIndex())
+        return true;
     FilteringScope filtering(m_filtering);
     // Without its cell a row cannot be judged; it stays visible rather than vanish silently.
     return CatchAtBoundary("TableContentFilterModel::filterAcceptsRow", true, [&]() {

@@ -145,6 +145,8 @@ private:
     TableFilterRows::Condition SourceCondition(int column, const ColumnCondition& entry) const;
 
     QPointer<TableContentModel> m_sourceModel;
+    // The same, for the row questions the proxy asks by the million: no weak-pointer check there.
+    const TableContentModel* m_source = nullptr;
     QPointer<FilterBarModel> m_filterBarModel;
     std::vector<int> m_proxyToSource;
     std::vector<int> m_sourceToProxy;

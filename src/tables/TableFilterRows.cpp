@@ -56,6 +56,7 @@ void TableFilterRows::Compute(const TableContentModel& model, const std::vector<
                               Asking asking)
 {
     Join();
+    m_rowsAnswered = 0;
     const int rows = model.rowCountSubmitted();
     const int bulks = (rows + c_bulkRows - 1) / c_bulkRows;
     m_accepted.assign(static_cast<std::size_t>(bulks), FirstRows(c_bulkRows));
@@ -80,6 +81,7 @@ void TableFilterRows::Compute(const TableContentModel& model, const std::vector<
 void TableFilterRows::Narrow(const TableContentModel& model, const Condition& condition, Asking asking)
 {
     Join();
+    m_rowsAnswered = 0;
     if (asking == Asking::InOrder && model.rowCountSubmitted() > RowsJudgedOnOneThread()
         && IsDelivered(model, condition))
         Start(model, { Prepare(model, condition, Delivery::Done) });
@@ -93,6 +95,7 @@ void TableFilterRows::Finish(const TableContentModel& model)
     m_computed = true;
     m_revision = model.Grid().Revision();
     m_rowCount = model.rowCountSubmitted();
+    m_rowsAnswered = m_stream ? 0 : m_rowCount;
 }
 
 bool TableFilterRows::IsCurrent(const TableContentModel& model) const
@@ -107,6 +110,7 @@ void TableFilterRows::Reset()
     m_unjudgeable.clear();
     m_folds.clear();
     m_computed = false;
+    m_rowsAnswered = 0;
 }
 
 // Whether every cell of the condition's column is in the grid, so that judging needs no delivery.
@@ -237,8 +241,19 @@ void TableFilterRows::AwaitBulk(int bulk)
            && stream.judged[static_cast<std::size_t>(stream.judgedParts)].load(std::memory_order_acquire))
         ++stream.judgedParts;
     stream.judgedBulks = std::min(static_cast<int>(m_accepted.size()), stream.judgedParts * c_bulksPerPart);
+    m_rowsAnswered = std::min(m_rowCount, stream.judgedBulks * c_bulkRows);
     if (stream.judgedParts == stream.partCount)
         Join();
+}
+
+bool TableFilterRows::AcceptsUnanswered(int row)
+{
+    const GridContentIndex index = GridContentIndex::FromRow(row);
+    if (row < 0 || index.bulk >= static_cast<int>(m_accepted.size()))
+        return true;
+    if (m_stream && index.bulk >= m_stream->judgedBulks)
+        AwaitBulk(index.bulk);
+    return m_accepted[static_cast<std::size_t>(index.bulk)][static_cast<std::size_t>(index.offset)];
 }
 
 void TableFilterRows::Join()
@@ -250,6 +265,7 @@ void TableFilterRows::Join()
     while (m_stream->workersRunning.load(std::memory_order_acquire) != 0)
         QThread::yieldCurrentThread();
     m_stream.reset();
+    m_rowsAnswered = std::min(m_computed ? m_rowCount : 0, static_cast<int>(m_accepted.size()) * c_bulkRows);
 }
 
 void TableFilterRows::JudgeBulks(const TableContentModel& model, const Prepared& prepared, int firstBulk,

@@ -64,13 +64,15 @@ public:
     bool IsCurrent(const TableContentModel& model) const;
     // Whether the submitted row passes; rows that could not be judged (a feeder failing to deliver
     // them) pass rather than vanish silently.
-    bool Accepts(int row)
+    bool Accepts(int row) { return IsAnswered(row) ? Answer(row) : AcceptsUnanswered(row); }
+    // The path the proxy takes a million times: whether the row's answer is final, and the answer.
+    bool IsAnswered(int row) const
+    {
+        return static_cast<unsigned>(row) < static_cast<unsigned>(m_rowsAnswered);
+    }
+    bool Answer(int row) const
     {
         const GridContentIndex index = GridContentIndex::FromRow(row);
-        if (row < 0 || index.bulk >= static_cast<int>(m_accepted.size()))
-            return true;
-        if (m_stream && index.bulk >= m_stream->judgedBulks)
-            AwaitBulk(index.bulk);
         return m_accepted[static_cast<std::size_t>(index.bulk)][static_cast<std::size_t>(index.offset)];
     }
     // Forgets the answers and every folded column (another model).
@@ -122,12 +124,16 @@ private:
     // Claims and judges the next part not yet claimed; false when every part was claimed.
     bool JudgeNextPart(Stream& stream);
     void AwaitBulk(int bulk);
+    bool AcceptsUnanswered(int row);
     void Finish(const TableContentModel& model);
 
     std::vector<BulkRows> m_accepted;
     std::vector<BulkRows> m_unjudgeable;
     std::unordered_map<QString, FilterColumnFold> m_folds; // by column id
     std::unique_ptr<Stream> m_stream;
+    // Rows 0 .. m_rowsAnswered - 1 have their final answers; the others are out of range, or in
+    // parts still being judged.
+    int m_rowsAnswered = 0;
     bool m_computed = false;
     std::uint64_t m_revision = 0;
     int m_rowCount = -1;
