@@ -75,7 +75,7 @@ void TableContentFilterModel::SetSourceModel(TableContentModel* model)
     m_sourceModel = model;
     m_source = model;
     m_acceptedRows.Reset();
-    m_acceptedRowsStale = true;
+    MarkAnswersStale();
     // Connected before the proxy connects itself: when columns move, the conditions must follow
     // their columns before the proxy re-tests its rows for the new layout.
     // So must the filter texts of columns that the source is about to remove, which the proxy drops
@@ -132,9 +132,9 @@ bool TableContentFilterModel::filterAcceptsRow(int sourceRow, const QModelIndex&
     // Only what this object holds and one step into the source are read on that path; the new row
     // is never among the answered ones.
     const TableContentModel* source = m_source;
-    if (source && m_acceptedRows.IsAnswered(sourceRow) && !m_acceptedRowsStale
-        && m_acceptedRows.IsCurrent(source->Grid().Revision(), source->rowCountSubmitted())
-        && !sourceParent.isValid())
+    // (Stale answers answer no row, and the rows change only with the grid's revision.)
+    if (source && m_acceptedRows.IsAnswered(sourceRow)
+        && m_acceptedRows.IsCurrentRevision(source->Grid().Revision()) && !sourceParent.isValid())
         return m_acceptedRows.Answer(sourceRow);
     if (m_conditions.empty() || sourceParent.isValid() || !source || sourceRow == source->newRowIndex())
         return true;
@@ -154,6 +154,12 @@ TableFilterRows::Condition TableContentFilterModel::SourceCondition(int column,
                  ->headerData(MapColumnToSource(column), Qt::Horizontal, TableContentModel::ColumnIdRole)
                  .toString(),
              entry.condition.get() };
+}
+
+void TableContentFilterModel::MarkAnswersStale()
+{
+    m_acceptedRowsStale = true;
+    m_acceptedRows.Unanswer();
 }
 
 // The proxy asks row by row; the answers are worked out for all rows at the first question after a
@@ -226,7 +232,7 @@ void TableContentFilterModel::onFilterBarModelChanged()
 
 void TableContentFilterModel::InvalidateFiltering(std::optional<int> narrowedColumn)
 {
-    m_acceptedRowsStale = true;
+    MarkAnswersStale();
     m_narrowedColumn = narrowedColumn;
     // Hidden rows must not stay selected: every change of the filters starts a new selection.
     m_selectionModel->select(QModelIndex(), TableSelectionModel::CleanSelect, false);
@@ -270,7 +276,7 @@ bool TableContentFilterModel::RekeyConditions()
 
 void TableContentFilterModel::RebuildColumnsMapping()
 {
-    m_acceptedRowsStale = true;
+    MarkAnswersStale();
     m_narrowedColumn.reset();
     const int sourceCount = m_sourceModel ? m_sourceModel->columnCount() : 0;
     QHash<QString, int> sourceColumnOfId;

@@ -143,6 +143,7 @@ private:
     // Brings the precomputed answers of filterAcceptsRow up to date.
     void UpdateAcceptedRows() const;
     TableFilterRows::Condition SourceCondition(int column, const ColumnCondition& entry) const;
+    void MarkAnswersStale();
 
     QPointer<TableContentModel> m_sourceModel;
     // The same, for the row questions the proxy asks by the million: no weak-pointer check there.

@@ -98,6 +98,12 @@ void TableFilterRows::Finish(const TableContentModel& model)
     m_rowsAnswered = m_stream ? 0 : m_rowCount;
 }
 
+void TableFilterRows::Unanswer()
+{
+    Join();
+    m_rowsAnswered = 0;
+}
+
 bool TableFilterRows::IsCurrent(const TableContentModel& model) const
 {
     return IsCurrent(model.Grid().Revision(), model.rowCountSubmitted());

@@ -62,6 +62,9 @@ public:
         return m_computed && m_revision == gridRevision && m_rowCount == rowCount;
     }
     bool IsCurrent(const TableContentModel& model) const;
+    bool IsCurrentRevision(std::uint64_t gridRevision) const { return m_revision == gridRevision; }
+    // The answers no longer hold (the conditions changed): no row is answered until computed again.
+    void Unanswer();
     // Whether the submitted row passes; rows that could not be judged (a feeder failing to deliver
     // them) pass rather than vanish silently.
     bool Accepts(int row) { return IsAnswered(row) ? Answer(row) : AcceptsUnanswered(row); }
