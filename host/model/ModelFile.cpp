@@ -13,6 +13,7 @@
 #include <QSaveFile>
 #include <cmath>
 #include <limits>
+#include <optional>
 
 namespace Orvo::Kernel::Model {
 
@@ -173,6 +174,23 @@ QJsonObject Write(const Combination& c)
     return { { c_numberKey, c.number }, { "factors", factors }, { c_nameKey, c.name } };
 }
 
+// A JSON number that is a whole number from lowest to highest.
+std::optional<std::int32_t> WholeNumber(const QJsonValue& value, std::int32_t lowest, std::int32_t highest)
+{
+    const double number = value.toDouble(std::numeric_limits<double>::quiet_NaN());
+    if (!value.isDouble() || std::floor(number) != number || number < lowest || number > highest)
+        return std::nullopt;
+    return std::int32_t(number);
+}
+
+// A JSON number that is finite: numbers too large for a double come out infinite.
+std::optional<double> FiniteNumber(const QJsonValue& value)
+{
+    if (!value.isDouble() || !std::isfinite(value.toDouble()))
+        return std::nullopt;
+    return value.toDouble();
+}
+
 // Reads the fields of one object of the file. A field that is missing keeps the record's
 // default (except those marked required); one that is there must be of the right kind and range.
 // The first problem is kept and every later read does nothing.
@@ -189,130 +207,116 @@ public:
 
     void Integer(const char* key, std::int32_t& out, std::int32_t lowest, std::int32_t highest, bool required)
     {
-        const QJsonValue value = Field(key, required);
-        if (value.isUndefined())
-            return;
-        const double number = value.toDouble(std::numeric_limits<double>::quiet_NaN());
-        if (!value.isDouble() || std::floor(number) != number || number < lowest || number > highest)
-            return Fail(key);
-        out = std::int32_t(number);
+        Read(key, required, out,
+             [&](const QJsonValue& value) { return WholeNumber(value, lowest, highest); });
     }
 
     // An object's own number, or the number of one it refers to.
     void ObjectNumber(const char* key, Number& out) { Integer(key, out, 1, c_largestNumber, true); }
 
-    void Real(const char* key, double& out)
-    {
-        const QJsonValue value = Field(key, false);
-        if (value.isUndefined())
-            return;
-        // Numbers too large for a double come out infinite.
-        if (!value.isDouble() || !std::isfinite(value.toDouble()))
-            return Fail(key);
-        out = value.toDouble();
-    }
+    void Real(const char* key, double& out) { Read(key, false, out, FiniteNumber); }
 
     void Reals(const char* key, std::array<double, 6>& out)
     {
-        const QJsonValue value = Field(key, false);
-        if (value.isUndefined())
-            return;
-        const QJsonArray array = value.toArray();
-        if (!value.isArray() || array.size() != qsizetype(out.size()))
-            return Fail(key);
-        std::array<double, 6> read {};
-        for (qsizetype i = 0; i < array.size(); ++i) {
-            if (!array[i].isDouble() || !std::isfinite(array[i].toDouble()))
-                return Fail(key);
-            read[std::size_t(i)] = array[i].toDouble();
-        }
-        out = read;
+        Read(key, false, out, [](const QJsonValue& value) -> std::optional<std::array<double, 6>> {
+            const QJsonArray array = value.toArray();
+            std::array<double, 6> read {};
+            if (!value.isArray() || array.size() != qsizetype(read.size()))
+                return std::nullopt;
+            for (qsizetype i = 0; i < array.size(); ++i) {
+                const std::optional<double> number = FiniteNumber(array[i]);
+                if (!number)
+                    return std::nullopt;
+                read[std::size_t(i)] = *number;
+            }
+            return read;
+        });
     }
 
     void Bool(const char* key, bool& out)
     {
-        const QJsonValue value = Field(key, false);
-        if (value.isUndefined())
-            return;
-        if (!value.isBool())
-            return Fail(key);
-        out = value.toBool();
+        Read(key, false, out, [](const QJsonValue& value) {
+            return value.isBool() ? std::optional<bool>(value.toBool()) : std::nullopt;
+        });
     }
 
     void Text(const char* key, QString& out)
     {
-        const QJsonValue value = Field(key, false);
-        if (value.isUndefined())
-            return;
-        if (!value.isString())
-            return Fail(key);
-        out = value.toString();
+        Read(key, false, out, [](const QJsonValue& value) {
+            return value.isString() ? std::optional<QString>(value.toString()) : std::nullopt;
+        });
     }
 
     void Color(const char* key, QColor& out)
     {
-        const QJsonValue value = Field(key, false);
-        if (value.isUndefined())
-            return;
-        const QColor color = QColor::fromString(value.toString());
-        if (!value.isString() || !color.isValid())
-            return Fail(key);
-        out = color;
+        Read(key, false, out, [](const QJsonValue& value) {
+            const QColor color = QColor::fromString(value.toString());
+            return value.isString() && color.isValid() ? std::optional<QColor>(color) : std::nullopt;
+        });
     }
 
     template<class Enum, std::size_t N>
     void Name(const char* key, Enum& out, const std::array<const char*, N>& names)
     {
-        const QJsonValue value = Field(key, false);
-        if (value.isUndefined())
-            return;
-        for (std::size_t i = 0; i < N; ++i) {
-            if (value.toString() == QLatin1String(names[i])) {
-                out = Enum(i);
-                return;
+        Read(key, false, out, [&](const QJsonValue& value) -> std::optional<Enum> {
+            for (std::size_t i = 0; i < N; ++i) {
+                if (value.toString() == QLatin1String(names[i]))
+                    return Enum(i);
             }
-        }
-        Fail(key);
+            return std::nullopt;
+        });
     }
 
     void Dofs(const char* key, DofMask& out)
     {
-        const QJsonValue value = Field(key, false);
-        if (value.isUndefined())
-            return;
-        if (!value.isArray())
-            return Fail(key);
-        DofMask mask = 0;
-        for (const QJsonValue& name : value.toArray()) {
-            std::size_t i = 0;
-            while (i < c_dofNames.size() && name.toString() != QLatin1String(c_dofNames[i]))
-                ++i;
-            if (!name.isString() || i == c_dofNames.size())
-                return Fail(key);
-            mask |= Dof(int(i));
-        }
-        out = mask;
+        Read(key, false, out, [](const QJsonValue& value) -> std::optional<DofMask> {
+            if (!value.isArray())
+                return std::nullopt;
+            DofMask mask = 0;
+            for (const QJsonValue& name : value.toArray()) {
+                std::size_t i = 0;
+                while (i < c_dofNames.size() && name.toString() != QLatin1String(c_dofNames[i]))
+                    ++i;
+                if (!name.isString() || i == c_dofNames.size())
+                    return std::nullopt;
+                mask |= Dof(int(i));
+            }
+            return mask;
+        });
     }
 
     void Factors(const char* key, std::vector<std::pair<Number, double>>& out)
     {
-        const QJsonValue value = Field(key, false);
+        using Factors = std::vector<std::pair<Number, double>>;
+        Read(key, false, out, [](const QJsonValue& value) -> std::optional<Factors> {
+            if (!value.isArray())
+                return std::nullopt;
+            Factors factors;
+            for (const QJsonValue& entry : value.toArray()) {
+                const QJsonObject pair = entry.toObject();
+                const std::optional<std::int32_t> loadCase
+                    = WholeNumber(pair.value(QLatin1String("loadCase")), 1, c_largestNumber);
+                const std::optional<double> factor = FiniteNumber(pair.value(QLatin1String("factor")));
+                if (!entry.isObject() || !loadCase || !factor)
+                    return std::nullopt;
+                factors.emplace_back(Number(*loadCase), *factor);
+            }
+            return factors;
+        });
+    }
+
+private:
+    // Reads the field through parse, which gives nothing for a value of the wrong kind or range;
+    // a missing field leaves out as it was.
+    template<class T, class Parse> void Read(const char* key, bool required, T& out, Parse&& parse)
+    {
+        const QJsonValue value = Field(key, required);
         if (value.isUndefined())
             return;
-        if (!value.isArray())
+        std::optional<T> read = parse(value);
+        if (!read)
             return Fail(key);
-        std::vector<std::pair<Number, double>> factors;
-        for (const QJsonValue& entry : value.toArray()) {
-            const QJsonObject pair = entry.toObject();
-            const QJsonValue loadCase = pair.value(QLatin1String("loadCase"));
-            const QJsonValue factor = pair.value(QLatin1String("factor"));
-            const double number = loadCase.toDouble(-1.0);
-            if (!entry.isObject() || !loadCase.isDouble() || std::floor(number) != number || number < 1
-                || number > c_largestNumber || !factor.isDouble() || !std::isfinite(factor.toDouble()))
-                return Fail(key);
-            factors.emplace_back(Number(number), factor.toDouble());
-        }
-        out = std::move(factors);
+        out = std::move(*read);
     }
 
 private:
