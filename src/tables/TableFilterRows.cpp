@@ -55,15 +55,27 @@ TableFilterRows::~TableFilterRows()
 void TableFilterRows::Compute(const TableContentModel& model, const std::vector<Condition>& conditions,
                               Asking asking)
 {
-    Join();
-    m_rowsAnswered = 0;
+    Unanswer();
     const int rows = model.rowCountSubmitted();
     const int bulks = (rows + c_bulkRows - 1) / c_bulkRows;
     m_accepted.assign(static_cast<std::size_t>(bulks), FirstRows(c_bulkRows));
     if (bulks > 0)
         m_accepted.back() = FirstRows(TableContentGrid::BulkRowCount(bulks - 1, rows));
     m_unjudgeable.assign(static_cast<std::size_t>(bulks), BulkRows());
-    const bool stream = asking == Asking::InOrder && rows > RowsJudgedOnOneThread()
+    Judge(model, conditions, asking);
+}
+
+void TableFilterRows::Narrow(const TableContentModel& model, const Condition& condition, Asking asking)
+{
+    Unanswer();
+    Judge(model, { condition }, asking);
+}
+
+// Narrows the current answers by the conditions, in their order.
+void TableFilterRows::Judge(const TableContentModel& model, const std::vector<Condition>& conditions,
+                            Asking asking)
+{
+    const bool stream = asking == Asking::InOrder && model.rowCountSubmitted() > RowsJudgedOnOneThread()
         && std::all_of(conditions.begin(), conditions.end(),
                        [&](const Condition& condition) { return IsDelivered(model, condition); });
     if (stream) {
@@ -75,18 +87,6 @@ void TableFilterRows::Compute(const TableContentModel& model, const std::vector<
         for (const Condition& condition : conditions)
             Apply(model, condition);
     }
-    Finish(model);
-}
-
-void TableFilterRows::Narrow(const TableContentModel& model, const Condition& condition, Asking asking)
-{
-    Join();
-    m_rowsAnswered = 0;
-    if (asking == Asking::InOrder && model.rowCountSubmitted() > RowsJudgedOnOneThread()
-        && IsDelivered(model, condition))
-        Start(model, { Prepare(model, condition, Delivery::Done) });
-    else
-        Apply(model, condition);
     Finish(model);
 }
 
@@ -246,8 +246,7 @@ void TableFilterRows::AwaitBulk(int bulk)
     while (stream.judgedParts < stream.partCount
            && stream.judged[static_cast<std::size_t>(stream.judgedParts)].load(std::memory_order_acquire))
         ++stream.judgedParts;
-    stream.judgedBulks = std::min(static_cast<int>(m_accepted.size()), stream.judgedParts * c_bulksPerPart);
-    m_rowsAnswered = std::min(m_rowCount, stream.judgedBulks * c_bulkRows);
+    m_rowsAnswered = std::min(m_rowCount, stream.judgedParts * c_bulksPerPart * c_bulkRows);
     if (stream.judgedParts == stream.partCount)
         Join();
 }
@@ -257,7 +256,8 @@ bool TableFilterRows::AcceptsUnanswered(int row)
     const GridContentIndex index = GridContentIndex::FromRow(row);
     if (row < 0 || index.bulk >= static_cast<int>(m_accepted.size()))
         return true;
-    if (m_stream && index.bulk >= m_stream->judgedBulks)
+    // Within range, a row is unanswered only while its part may still be being judged.
+    if (m_stream)
         AwaitBulk(index.bulk);
     return m_accepted[static_cast<std::size_t>(index.bulk)][static_cast<std::size_t>(index.offset)];
 }

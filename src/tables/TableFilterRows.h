@@ -110,7 +110,6 @@ private:
         std::atomic<bool> published { false };
         std::atomic<int> workersRunning { 0 };
         int judgedParts = 0; // asking thread only: parts 0 .. judgedParts - 1 are judged
-        int judgedBulks = 0; // the same in bulks
     };
 
     enum class Delivery
@@ -120,6 +119,7 @@ private:
     };
     Prepared Prepare(const TableContentModel& model, const Condition& condition, Delivery delivery);
     bool IsDelivered(const TableContentModel& model, const Condition& condition);
+    void Judge(const TableContentModel& model, const std::vector<Condition>& conditions, Asking asking);
     void Apply(const TableContentModel& model, const Condition& condition);
     void Start(const TableContentModel& model, std::vector<Prepared> conditions);
     void JudgeBulks(const TableContentModel& model, const Prepared& prepared, int firstBulk, int endBulk);
