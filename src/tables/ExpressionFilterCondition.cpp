@@ -36,22 +36,13 @@ template<Comparer comparer> bool Passes(double cell, double value, double tolera
     return false;
 }
 
-// The rows that hold a number, all compared with the operand number in one tight loop: the
-// comparer is chosen once per bulk and the tolerance looked up only when the decimals change.
+// The rows whose number compares with the operand number, the comparer chosen once per bulk.
 template<Comparer comparer>
 BulkRows NumbersPassing(const FilterFoldedBulk::Numbers& numbers, int rows, double operand)
 {
-    BulkRows passing;
-    int precision = numbers.precision[0];
-    double tolerance = FilterComparison::Tolerance(precision);
-    for (std::size_t row = 0; row < static_cast<std::size_t>(rows); ++row) {
-        if (numbers.precision[row] != precision) {
-            precision = numbers.precision[row];
-            tolerance = FilterComparison::Tolerance(precision);
-        }
-        passing.set(row, Passes<comparer>(numbers.strict[row], operand, tolerance));
-    }
-    return passing;
+    return numbers.Passing(rows, [operand](double cell, double tolerance) {
+        return Passes<comparer>(cell, operand, tolerance);
+    });
 }
 
 BulkRows NumbersPassing(Comparer comparer, const FilterFoldedBulk::Numbers& numbers, int rows, double operand)

@@ -58,6 +58,23 @@ struct FilterFoldedBulk
         BulkRows hasLenient;
         std::array<std::int16_t, c_rows> precision {};
 
+        // The first rows whose strict number passes test(number, tolerance), with the tolerance
+        // of each row's decimals, looked up only when they change: one tight loop per bulk.
+        template<class Test> BulkRows Passing(int rows, Test&& test) const
+        {
+            BulkRows passing;
+            int decimals = precision[0];
+            double tolerance = FilterComparison::Tolerance(decimals);
+            for (std::size_t row = 0; row < static_cast<std::size_t>(rows); ++row) {
+                if (precision[row] != decimals) {
+                    decimals = precision[row];
+                    tolerance = FilterComparison::Tolerance(decimals);
+                }
+                passing.set(row, test(strict[row], tolerance));
+            }
+            return passing;
+        }
+
         FoldedSide Side(std::size_t row) const
         {
             return { hasStrict.test(row) ? std::optional<double>(strict[row]) : std::nullopt,

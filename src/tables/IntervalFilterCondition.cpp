@@ -40,28 +40,19 @@ BulkRows IntervalFilterCondition::Narrow(const FilterFoldedBulk& bulk, BulkRows 
     const FoldedSide lower { m_lowerNumber, m_lowerLenient };
     const FoldedSide upper { m_upperNumber, m_upperLenient };
     BulkRows accepted;
-    // Nearly every cell of a numeric column is a number: those are judged all at once, in a loop
-    // that looks the tolerance up only when the decimals change.
+    // Nearly every cell of a numeric column is a number: those are judged all at once.
     if (m_lowerNumber && m_upperNumber && bulk.rows > 0) {
         const double lowerNumber = *m_lowerNumber;
         const double upperNumber = *m_upperNumber;
-        BulkRows passing;
-        int precision = numbers.precision[0];
-        double tolerance = FilterComparison::Tolerance(precision);
-        for (std::size_t row = 0; row < static_cast<std::size_t>(bulk.rows); ++row) {
-            if (numbers.precision[row] != precision) {
-                precision = numbers.precision[row];
-                tolerance = FilterComparison::Tolerance(precision);
-            }
-            const double value = numbers.strict[row];
+        const BulkRows passing = numbers.Passing(bulk.rows, [&](double value, double tolerance) {
             const bool aboveLower = m_lowerInclusive
                 ? FilterComparison::IsLessOrEqualWithin(lowerNumber, value, tolerance)
                 : FilterComparison::IsLessWithin(lowerNumber, value, tolerance);
             const bool belowUpper = m_upperInclusive
                 ? FilterComparison::IsLessOrEqualWithin(value, upperNumber, tolerance)
                 : FilterComparison::IsLessWithin(value, upperNumber, tolerance);
-            passing.set(row, aboveLower && belowUpper);
-        }
+            return aboveLower && belowUpper;
+        });
         const BulkRows numbered = candidates & numbers.hasStrict;
         accepted = passing & numbered;
         candidates &= ~numbered;
